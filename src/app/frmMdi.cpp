@@ -1,0 +1,144 @@
+#include "app/frmMdi.h"
+
+#include <QCloseEvent>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QPushButton>
+#include <QScreen>
+#include <QVBoxLayout>
+
+#include "app/strip_places.h"
+#include "style/link_label.h"
+#include "style/look.h"
+
+namespace {
+
+constexpr int buttonWidth = 1215;   // twips
+constexpr int buttonHeight = 390;   // twips
+constexpr int stripMargin = 75;     // twips
+
+int pixels(int twips) { return qRound(twips / look::twipsPerPixel); }
+int twips(int pixelCount) { return qRound(pixelCount * look::twipsPerPixel); }
+
+}  // namespace
+
+frmMdi::frmMdi() {
+    setObjectName(QStringLiteral("frmMdi"));
+    setWindowTitle(look::productName());
+    createStrip();
+    area_ = new QMdiArea;
+    area_->setBackground(palette().color(QPalette::Window).darker(112));
+    area_->setFocusPolicy(Qt::NoFocus);
+    auto* rows = new QVBoxLayout{this};
+    rows->setContentsMargins(0, 0, 0, 0);
+    rows->setSpacing(0);
+    rows->addWidget(Picture2);
+    rows->addWidget(area_);
+    MDIForm_Load();
+}
+
+void frmMdi::MDIForm_Load() {
+    // As large as it will be when it is maximised, so that nothing has to be laid out twice.
+    resize(screen()->availableSize());
+    placeStrip();
+}
+
+void frmMdi::createStrip() {
+    Picture2 = new QWidget;
+    Picture2->setObjectName(QStringLiteral("Picture2"));
+    lblBanner = new LinkLabel{look::productName(), Picture2};
+    lblBanner->setObjectName(QStringLiteral("lblBanner"));
+    QFont title = lblBanner->font();
+    title.setPixelSize(17);
+    title.setBold(true);
+    lblBanner->setFont(title);
+    lblBanner->setAccessibleDescription(tr("Opens the home page"));
+    lblBanner->adjustSize();
+    connect(lblBanner, &LinkLabel::clicked, this, &frmMdi::homePageRequested);
+    cmdSavePicture = createButton("cmdSavePicture", "Save as &JPG", &frmMdi::savePictureRequested);
+    cmdShowAll = createButton("cmdShowAll", "&Show All", &frmMdi::showAllRequested);
+    cmdBack = createButton("cmdBack", "&Back", &frmMdi::backRequested);
+    cmdMdiExit = createButton("cmdMdiExit", "&Exit", &frmMdi::exitRequested);
+}
+
+// The buttons' width is fixed by their places, so their text does not grow with the desktop's.
+QPushButton* frmMdi::createButton(const char* name, const char* caption, void (frmMdi::*wanted)()) {
+    auto* button = new QPushButton{QString::fromLatin1(caption), Picture2};
+    button->setObjectName(QString::fromLatin1(name));
+    QFont font = button->font();
+    font.setPixelSize(11);
+    button->setFont(font);
+    connect(button, &QPushButton::clicked, this, wanted);
+    return button;
+}
+
+int frmMdi::screenTwips() const { return twips(screen()->size().width()); }
+
+// Places count from the screen, not from the frame. On a screen so narrow that the banner would meet the
+// buttons, the buttons move down to a row of their own.
+void frmMdi::placeStrip() {
+    const StripPlaces places = stripPlaces(screenTwips(), buttonWidth);
+    const int margin = pixels(stripMargin);
+    const int bannerLeft = pixels(centredLeft(screenTwips(), twips(lblBanner->width())));
+    const bool narrow = bannerLeft + lblBanner->width() + margin > pixels(places.cmdSavePicture);
+    const int rowHeight = std::max(pixels(buttonHeight), lblBanner->height());
+    const int buttonTop = margin + (rowHeight - pixels(buttonHeight)) / 2 + (narrow ? lblBanner->height() : 0);
+    lblBanner->move(bannerLeft, margin + (narrow ? 0 : (rowHeight - lblBanner->height()) / 2));
+    const auto place = [buttonTop](QPushButton* button, int left) {
+        button->setGeometry(pixels(left), buttonTop, pixels(buttonWidth), pixels(buttonHeight));
+    };
+    place(cmdSavePicture, places.cmdSavePicture);
+    place(cmdShowAll, places.cmdShowAll);
+    place(cmdBack, places.cmdBack);
+    place(cmdMdiExit, places.cmdMdiExit);
+    Picture2->setFixedHeight(2 * margin + rowHeight + (narrow ? lblBanner->height() : 0));
+}
+
+void frmMdi::hostChart(QWidget* chart, std::function<QSize(QSize)> fit) {
+    fit_ = std::move(fit);
+    chartWindow_ = area_->addSubWindow(chart, Qt::SubWindow | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
+                                                  Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint);
+    chartWindow_->setAttribute(Qt::WA_DeleteOnClose, false);
+    chartWindow_->setWindowIcon(windowIcon());
+    chartWindow_->installEventFilter(this);
+    area_->installEventFilter(this);
+    chartWindow_->show();
+    layout()->activate();
+    placeChart();
+    // The chart window takes the focus when it is shown; it belongs to the strip until a person moves it.
+    QMetaObject::invokeMethod(cmdShowAll, qOverload<>(&QWidget::setFocus), Qt::QueuedConnection);
+}
+
+void frmMdi::placeChart() {
+    if (chartWindow_ == nullptr) return;
+    const QSize room = area_->viewport()->size();
+    const QMargins border = chartWindow_->contentsMargins();
+    const QSize decoration{border.left() + border.right(), border.top() + border.bottom()};
+    const QSize size = fit_(room - decoration) + decoration;
+    const int width = std::min(screen()->size().width(), room.width());
+    const int left = pixels(centredLeft(twips(width), twips(size.width())));
+    chartWindow_->setGeometry(left, std::max(0, (room.height() - size.height()) / 2), size.width(), size.height());
+}
+
+void frmMdi::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    placeStrip();
+}
+
+// Closing the chart window by its title bar is Exit, as closing the frame is.
+bool frmMdi::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == chartWindow_ && event->type() == QEvent::Close) {
+        event->ignore();
+        emit exitRequested();
+        return true;
+    }
+    const bool resized = watched == area_ && event->type() == QEvent::Resize;
+    const bool handled = QWidget::eventFilter(watched, event);
+    if (resized) QMetaObject::invokeMethod(this, &frmMdi::placeChart, Qt::QueuedConnection);
+    return handled;
+}
+
+void frmMdi::closeEvent(QCloseEvent* event) {
+    event->accept();
+    emit exitRequested();
+}

@@ -1,0 +1,49 @@
+// The frame that hosts the chart window, with a strip of four buttons along its top.
+#pragma once
+
+#include <QWidget>
+#include <functional>
+
+class LinkLabel;
+class QMdiArea;
+class QMdiSubWindow;
+class QPushButton;
+
+class frmMdi : public QWidget {
+    Q_OBJECT
+  public:
+    frmMdi();
+
+    // Takes the chart window in. `fit` is told how much room there is and returns the size that the window takes.
+    void hostChart(QWidget* chart, std::function<QSize(QSize)> fit);
+
+  signals:
+    void savePictureRequested();
+    void showAllRequested();
+    void backRequested();
+    void exitRequested();
+    void homePageRequested();
+
+  protected:
+    void closeEvent(QCloseEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+  private:
+    void MDIForm_Load();
+    void createStrip();
+    QPushButton* createButton(const char* name, const char* caption, void (frmMdi::*wanted)());
+    void placeStrip();
+    void placeChart();
+    int screenTwips() const;
+
+    QWidget* Picture2;
+    LinkLabel* lblBanner;
+    QPushButton* cmdSavePicture;
+    QPushButton* cmdShowAll;
+    QPushButton* cmdBack;
+    QPushButton* cmdMdiExit;
+    QMdiArea* area_;
+    QMdiSubWindow* chartWindow_ = nullptr;
+    std::function<QSize(QSize)> fit_;
+};

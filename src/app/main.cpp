@@ -1,0 +1,29 @@
+// Palace Lantern: casts a Zi Wei Dou Shu birth chart for one person and explains it in English.
+
+#include <QApplication>
+
+#include "app/application.h"
+#include "app/required_file.h"
+#include "app/single_instance.h"
+#include "style/look.h"
+#include "style/message.h"
+
+int main(int argc, char* argv[]) {
+    QApplication toolkit{argc, argv};
+    QApplication::setApplicationName(QStringLiteral("palace-lantern"));
+    QApplication::setApplicationDisplayName(look::productName());
+    QApplication::setDesktopFileName(QStringLiteral("palace-lantern"));
+    QApplication::setQuitOnLastWindowClosed(false);
+    QApplication::setFont(look::textFont(QApplication::font()));
+    QApplication::setWindowIcon(look::productIcon());
+
+    const SingleInstance instance;
+    if (instance.anotherIsRunning()) {
+        showMessage(nullptr, QMessageBox::Information, QStringLiteral("Application is already running"));
+        return 0;
+    }
+    if (!requiredFileIsPresent()) return 1;
+    Application application;
+    application.start();
+    return QApplication::exec();
+}

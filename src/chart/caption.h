@@ -1,0 +1,40 @@
+// The text of one label of the chart. Every text that a label can show is a few characters long, so it is held
+// in place: casting a chart allocates nothing, and clearing one is as cheap as clearing numbers.
+#pragma once
+
+#include <array>
+#include <cassert>
+#include <cstddef>
+#include <cstdint>
+#include <string_view>
+
+class Caption {
+  public:
+    constexpr Caption() = default;
+
+    // At most 15 characters.
+    constexpr Caption(std::string_view text) : size_(static_cast<std::uint8_t>(text.size())) {
+        assert(text.size() <= characters_.size());
+        for (std::size_t i = 0; i < text.size(); ++i) characters_[i] = text[i];
+    }
+    constexpr Caption(const char* text) : Caption(std::string_view{text}) {}
+
+    constexpr std::string_view text() const { return {characters_.data(), size_}; }
+    constexpr bool empty() const { return size_ == 0; }
+    friend constexpr bool operator==(const Caption&, const Caption&) = default;
+
+  private:
+    std::array<char, 15> characters_{};
+    std::uint8_t size_ = 0;
+};
+
+// The upper text, a line break (carriage return and line feed) and the lower text, 15 characters in all at
+// the most.
+constexpr Caption stacked(const Caption& upper, const Caption& lower) {
+    std::array<char, 15> both{};
+    std::size_t size = 0;
+    for (const std::string_view part : {upper.text(), std::string_view{"\r\n"}, lower.text()}) {
+        for (const char character : part) both.at(size++) = character;
+    }
+    return std::string_view{both.data(), size};
+}

@@ -1,0 +1,65 @@
+#include "chart/zi_wei.h"
+
+#include <algorithm>
+#include <optional>
+
+namespace {
+
+constexpr std::array<Caption, 5> elementNames{"Water", "Wood", "Metal", "Earth", "Fire"};
+
+// Zi Wei's branch for the days 1 to 30, one column an element. Day 26 of Earth is Chen on purpose.
+// clang-format off
+constexpr std::array<std::array<Caption, elementNames.size()>, 30> ziWeiBranches{{
+    // Water  Wood    Metal   Earth   Fire
+    {"Chou", "Chen", "Hai",  "Wu",   "You"},  // 1
+    {"Yin",  "Chou", "Chen", "Hai",  "Wu"},  // 2
+    {"Yin",  "Yin",  "Chou", "Chen", "Hai"},  // 3
+    {"Mao",  "Si",   "Yin",  "Chou", "Chen"},  // 4
+    {"Mao",  "Yin",  "Zi",   "Yin",  "Chou"},  // 5
+    {"Chen", "Mao",  "Si",   "Wei",  "Yin"},  // 6
+    {"Chen", "Wu",   "Yin",  "Zi",   "Xu"},  // 7
+    {"Si",   "Mao",  "Mao",  "Si",   "Wei"},  // 8
+    {"Si",   "Chen", "Chou", "Yin",  "Zi"},  // 9
+    {"Wu",   "Wei",  "Wu",   "Mao",  "Si"},  // 10
+    {"Wu",   "Chen", "Mao",  "Shen", "Yin"},  // 11
+    {"Wei",  "Si",   "Chen", "Chou", "Mao"},  // 12
+    {"Wei",  "Shen", "Yin",  "Wu",   "Hai"},  // 13
+    {"Shen", "Si",   "Wei",  "Mao",  "Shen"},  // 14
+    {"Shen", "Wu",   "Chen", "Chen", "Chou"},  // 15
+    {"You",  "You",  "Si",   "You",  "Wu"},  // 16
+    {"You",  "Wu",   "Mao",  "Yin",  "Mao"},  // 17
+    {"Xu",   "Wei",  "Shen", "Wei",  "Chen"},  // 18
+    {"Xu",   "Xu",   "Si",   "Chen", "Zi"},  // 19
+    {"Hai",  "Wei",  "Wu",   "Si",   "You"},  // 20
+    {"Hai",  "Shen", "Chen", "Xu",   "Yin"},  // 21
+    {"Zi",   "Hai",  "You",  "Mao",  "Wei"},  // 22
+    {"Zi",   "Shen", "Wu",   "Shen", "Chen"},  // 23
+    {"Chou", "You",  "Wei",  "Si",   "Si"},  // 24
+    {"Chou", "Zi",   "Si",   "Wu",   "Chou"},  // 25
+    {"Yin",  "You",  "Xu",   "Chen", "Xu"},  // 26
+    {"Yin",  "Xu",   "Wei",  "Chen", "Mao"},  // 27
+    {"Mao",  "Chou", "Shen", "You",  "Shen"},  // 28
+    {"Mao",  "Xu",   "Wu",   "Wu",   "Si"},  // 29
+    {"Chen", "Hai",  "Hai",  "Wei",  "Wu"},  // 30
+}};
+// clang-format on
+
+std::optional<Caption> branchFor(const Caption& element, int dayPosition) {
+    const auto column = std::find(elementNames.begin(), elementNames.end(), element);
+    if (column == elementNames.end() || dayPosition >= static_cast<int>(ziWeiBranches.size())) return std::nullopt;
+    return ziWeiBranches[static_cast<std::size_t>(dayPosition)]
+                        [static_cast<std::size_t>(column - elementNames.begin())];
+}
+
+}  // namespace
+
+void placeZiWei(ChartModel& chart, int dayPosition) {
+    if (const auto branch = branchFor(chart.lblElement, dayPosition)) chart.ziWeiBranch = *branch;
+    for (const CellIndex cell : allCells) {
+        Caption& text = chart.cell(cell).lblEarthlyBranches;
+        if (text != chart.ziWeiBranch) continue;
+        text = stacked("Zi Wei", text);
+        chart.ziWeiCell = cell;
+    }
+    chart.cellOf(Star::ZiWei) = chart.ziWeiCell;
+}

@@ -1,0 +1,26 @@
+// The transparent area over a palace cell: it takes clicks and hovering, can hold the focus, and is what a
+// screen reader knows of the cell.
+#pragma once
+
+#include <QAbstractButton>
+
+#include "chart/cell_index.h"
+
+class LblCover : public QAbstractButton {
+    Q_OBJECT
+  public:
+    LblCover(CellIndex cell, QWidget* parent);
+
+  signals:
+    void pointedAt();  // by the pointer or by the focus
+    void left();
+    void stepWanted(int columnStep, int rowStep);
+
+  protected:
+    void enterEvent(QEnterEvent* event) override;
+    void leaveEvent(QEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+};

@@ -1,0 +1,19 @@
+// What is checked of the birth data before a chart is cast.
+#pragma once
+
+#include <optional>
+#include <string_view>
+
+#include "chart/birth_entry.h"
+
+enum class InputField { txtName, cmbDate };
+
+// What the person is told, and the field that takes the focus then.
+struct InputFailure {
+    std::string_view message;
+    InputField field;
+};
+
+// The first failure, or nothing where the entry will do: the name is not empty (blanks will do), and the month
+// has the day. Leap years are those divisible by 4, which is exact for every year of the list.
+std::optional<InputFailure> checkBirthEntry(const BirthEntry& entry);

@@ -1,0 +1,75 @@
+#include "interpret/composer.h"
+
+#include <algorithm>
+
+#include "interpret/texts.h"
+
+namespace {
+
+constexpr TextStyle heading{true, 9, {13, 36, 166}};
+constexpr TextStyle palaceBody{true, 8, {101, 14, 14}};
+constexpr TextStyle starGeneral{true, 8, {0, 0, 0}};
+constexpr TextStyle starInPalaceBody{true, 8, {101, 14, 14}};
+constexpr TextStyle intro{true, 8, {0, 0, 0}};
+constexpr TextStyle detailsLine{true, 8, {128, 0, 0}};
+
+constexpr std::string_view paragraphEnd = "\r\n\r\n";
+constexpr std::string_view bodyPalaceHeading = "Body Palace :- ";
+constexpr std::string_view details = "Details about the Star present in this house :-";
+
+using Runs = std::vector<TextRun>;
+
+TextRun paragraph(std::string_view text, const TextStyle& style) {
+    TextRun run{{}, style};
+    run.text.reserve(text.size() + paragraphEnd.size());
+    run.text.append(text).append(paragraphEnd);
+    return run;
+}
+
+void append(Runs& runs, std::string_view headingText, TextRun body) {
+    runs.push_back({std::string{headingText}, heading});
+    runs.push_back(std::move(body));
+}
+
+void appendStar(Runs& runs, std::size_t star, std::size_t palace) {
+    append(runs, starTexts[star].heading, paragraph(starTexts[star].general, starGeneral));
+    runs.push_back(paragraph(starInPalaceTexts[star][palace], starInPalaceBody));
+}
+
+// The index of the palace whose name stands in the cell, or palaceTextCount where the name is not known.
+std::size_t palaceIn(const ChartModel& chart, CellIndex cell) {
+    const std::string_view name = chart.cell(cell).lblPalace.text();
+    const auto found = std::find_if(palaceTexts.begin(), palaceTexts.end(),
+                                    [name](const PalaceText& palace) { return palace.key == name; });
+    return static_cast<std::size_t>(found - palaceTexts.begin());
+}
+
+void appendPalace(Runs& runs, const ChartModel& chart, CellIndex cell) {
+    const std::size_t palace = palaceIn(chart, cell);
+    const bool known = palace < palaceTexts.size();
+    if (known) append(runs, palaceTexts[palace].heading, paragraph(palaceTexts[palace].description, palaceBody));
+    runs.push_back(paragraph(details, detailsLine));
+    if (chart.bodyPalace == cell) append(runs, bodyPalaceHeading, paragraph(bodyPalaceText, palaceBody));
+    for (std::size_t star = 0; known && star < starTexts.size(); ++star) {
+        if (chart.cellOf(starTexts[star].star) == cell) appendStar(runs, star, palace);
+    }
+}
+
+}  // namespace
+
+TextRun introRun() { return paragraph(introText, intro); }
+
+std::vector<TextRun> composePalaceAnalysis(const ChartModel& chart, int cell) {
+    Runs runs;
+    if (cell >= 0 && cell < cellCount) appendPalace(runs, chart, CellIndex{cell});
+    return runs;
+}
+
+std::vector<TextRun> composeAllPalaces(const ChartModel& chart) {
+    Runs runs;
+    for (const CellIndex cell : allCells) {
+        appendPalace(runs, chart, cell);
+        runs.push_back({std::string{paragraphEnd}, runs.back().style});
+    }
+    return runs;
+}

@@ -1,0 +1,24 @@
+// A piece of an analysis in one style.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+struct Rgb {
+    std::uint8_t red;
+    std::uint8_t green;
+    std::uint8_t blue;
+    friend constexpr bool operator==(const Rgb&, const Rgb&) = default;
+};
+
+struct TextStyle {
+    bool bold;
+    int size;  // in points
+    Rgb colour;
+    friend constexpr bool operator==(const TextStyle&, const TextStyle&) = default;
+};
+
+struct TextRun {
+    std::string text;  // ASCII, CR LF as line break
+    TextStyle style;
+};
