@@ -45,6 +45,7 @@ void Application::connectChart() {
     connect(display_, &frmDisplay::savePictureRequested, this, &Application::savePicture);
     connect(display_, &frmDisplay::backRequested, this, &Application::goBack);
     connect(display_, &frmDisplay::exitRequested, this, &Application::unloadAll);
+    connect(display_, &frmDisplay::tabbedOut, frame_.get(), &frmMdi::focusStrip);
     connect(display_, &frmDisplay::pageRequested, this, [this](WebPage page) { openPage(page, frame_.get()); });
     connect(display_, &frmDisplay::aboutRequested, this, [this] { showAbout(frame_.get()); });
     connect(frame_.get(), &frmMdi::showAllRequested, this, &Application::openAllPalaces);

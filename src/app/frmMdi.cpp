@@ -109,6 +109,14 @@ void frmMdi::hostChart(QWidget* chart, std::function<QSize(QSize)> fit) {
     QMetaObject::invokeMethod(cmdShowAll, qOverload<>(&QWidget::setFocus), Qt::QueuedConnection);
 }
 
+void frmMdi::focusStrip(bool first) {
+    if (first) {
+        lblBanner->setFocus(Qt::TabFocusReason);
+    } else {
+        cmdMdiExit->setFocus(Qt::BacktabFocusReason);
+    }
+}
+
 void frmMdi::placeChart() {
     if (chartWindow_ == nullptr) return;
     const QSize room = area_->viewport()->size();

@@ -17,6 +17,9 @@ class frmMdi : public QWidget {
     // Takes the chart window in. `fit` is told how much room there is and returns the size that the window takes.
     void hostChart(QWidget* chart, std::function<QSize(QSize)> fit);
 
+    // Puts the focus on the strip's first control, or on its last.
+    void focusStrip(bool first);
+
   signals:
     void savePictureRequested();
     void showAllRequested();

@@ -11,7 +11,6 @@
 int main(int argc, char* argv[]) {
     QApplication toolkit{argc, argv};
     QApplication::setApplicationName(QStringLiteral("palace-lantern"));
-    QApplication::setApplicationDisplayName(look::productName());
     QApplication::setDesktopFileName(QStringLiteral("palace-lantern"));
     QApplication::setQuitOnLastWindowClosed(false);
     QApplication::setFont(look::textFont(QApplication::font()));

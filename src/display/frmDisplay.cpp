@@ -153,6 +153,7 @@ void frmDisplay::createCells() {
         lblCover[cell.index()] = cover;
         connect(cover, &LblCover::clicked, this, [this, cell] { emit palaceClicked(cell.value()); });
         connect(cover, &LblCover::pointedAt, this, &frmDisplay::lblCover_Hover);
+        connect(cover, &LblCover::focused, this, &frmDisplay::makeTabStop);
         connect(cover, &LblCover::left, this, &frmDisplay::background_Hover);
         connect(cover, &LblCover::stepWanted, this,
                 [this, cell](int columnStep, int rowStep) { moveFocus(cell, columnStep, rowStep); });
@@ -298,9 +299,20 @@ void frmDisplay::lblCover_Hover() { lblCaption->setText(QLatin1String{cellHint})
 
 void frmDisplay::background_Hover() { lblCaption->setText(QLatin1String{backgroundHint}); }
 
+// A window inside a frame would keep the Tab key's focus to itself for good.
+bool frmDisplay::focusNextPrevChild(bool next) {
+    emit tabbedOut(next);
+    return true;
+}
+
 bool frmDisplay::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::MouseMove || event->type() == QEvent::Enter) background_Hover();
     return QWidget::eventFilter(watched, event);
+}
+
+// The chart is one stop of the Tab key, at the cell that had the focus last; arrow keys move within it.
+void frmDisplay::makeTabStop() {
+    for (LblCover* cover : lblCover) cover->setFocusPolicy(cover == sender() ? Qt::StrongFocus : Qt::ClickFocus);
 }
 
 void frmDisplay::moveFocus(CellIndex from, int columnStep, int rowStep) {

@@ -39,8 +39,10 @@ class frmDisplay : public QWidget {
     void exitRequested();
     void pageRequested(WebPage page);
     void aboutRequested();
+    void tabbedOut(bool forwards);  // the Tab key left the chart
 
   protected:
+    bool focusNextPrevChild(bool next) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
@@ -55,6 +57,7 @@ class frmDisplay : public QWidget {
     void placeCentre();
     void lblCover_Hover();
     void background_Hover();
+    void makeTabStop();
     void moveFocus(CellIndex from, int columnStep, int rowStep);
     QLabel* centreLabel(std::string_view name) const;
 

@@ -67,7 +67,7 @@ void frmPalaceAnalysis::createText() {
     RTB->document()->setUndoRedoEnabled(false);
 }
 
-void frmPalaceAnalysis::createButtons(AnalysisKind kind, QLayout* rows) {
+void frmPalaceAnalysis::createButtons(AnalysisKind kind, QVBoxLayout* rows) {
     cmdSave = named(new QPushButton{tr("&Save")}, "cmdSave");
     cmdPrint = named(new QPushButton{tr("&Print")}, "cmdPrint");
     cmdOk = named(new QPushButton{tr("&OK")}, "cmdOk");
@@ -78,7 +78,7 @@ void frmPalaceAnalysis::createButtons(AnalysisKind kind, QLayout* rows) {
     auto* row = new QHBoxLayout;
     row->addStretch();
     for (QPushButton* button : {cmdSave, cmdPrint, cmdOk}) row->addWidget(button);
-    rows->addItem(row);
+    rows->addLayout(row);
     cmdSave->setHidden(kind == AnalysisKind::onePalace);
     cmdPrint->setHidden(kind == AnalysisKind::onePalace);
 }
@@ -109,6 +109,8 @@ void frmPalaceAnalysis::append(const std::vector<TextRun>& runs) {
     end.beginEditBlock();
     for (const TextRun& run : runs) end.insertText(withLineBreaks(run.text), formatFor(run.style));
     end.endEditBlock();
+    // The text is read from its top, by eye and by the keyboard's cursor.
+    RTB->moveCursor(QTextCursor::Start);
 }
 
 void frmPalaceAnalysis::cmdPrint_Click() { printAnalysis(*RTB, this); }

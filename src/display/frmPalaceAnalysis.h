@@ -9,6 +9,7 @@
 
 class QPushButton;
 class QTextEdit;
+class QVBoxLayout;
 
 enum class AnalysisKind {
     onePalace,   // to be read and closed
@@ -30,7 +31,7 @@ class frmPalaceAnalysis : public QDialog {
 
   private:
     void createText();
-    void createButtons(AnalysisKind kind, QLayout* rows);
+    void createButtons(AnalysisKind kind, QVBoxLayout* rows);
     void createMenus();
     void fitToScreen();
     void cmdPrint_Click();

@@ -7,7 +7,7 @@
 
 LblCover::LblCover(CellIndex cell, QWidget* parent) : QAbstractButton(parent) {
     setObjectName(QStringLiteral("lblCover(%1)").arg(cell.value()));
-    setFocusPolicy(Qt::StrongFocus);
+    setFocusPolicy(cell == CellIndex{0} ? Qt::StrongFocus : Qt::ClickFocus);
     setCursor(Qt::PointingHandCursor);
 }
 
@@ -25,6 +25,7 @@ void LblCover::leaveEvent(QEvent* event) {
 
 void LblCover::focusInEvent(QFocusEvent* event) {
     QAbstractButton::focusInEvent(event);
+    emit focused();
     emit pointedAt();
 }
 

@@ -14,6 +14,7 @@ class LblCover : public QAbstractButton {
   signals:
     void pointedAt();  // by the pointer or by the focus
     void left();
+    void focused();
     void stepWanted(int columnStep, int rowStep);
 
   protected:
