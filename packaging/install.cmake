@@ -1,0 +1,28 @@
+# What is installed where. Program and converter lie together in a folder of their own, with a link on the path;
+# the help pages are found from there as ../../share/palace-lantern/help.
+set(PALACE_LANTERN_FOLDER lib/palace-lantern)
+install(TARGETS palace-lantern RUNTIME DESTINATION ${PALACE_LANTERN_FOLDER})
+install(TARGETS Bmp2Jpeg LIBRARY DESTINATION ${PALACE_LANTERN_FOLDER})
+file(MAKE_DIRECTORY ${CMAKE_BINARY_DIR}/packaging)
+file(CREATE_LINK ../${PALACE_LANTERN_FOLDER}/palace-lantern ${CMAKE_BINARY_DIR}/packaging/palace-lantern SYMBOLIC)
+install(FILES ${CMAKE_BINARY_DIR}/packaging/palace-lantern DESTINATION bin)
+
+set(PACKAGING ${CMAKE_CURRENT_LIST_DIR})
+install(FILES ${PACKAGING}/palace-lantern.desktop DESTINATION share/applications)
+install(FILES ${PACKAGING}/palace-lantern.metainfo.xml DESTINATION share/metainfo
+        RENAME org.example.palacelantern.metainfo.xml)
+install(FILES ${PACKAGING}/palace-lantern.svg DESTINATION share/icons/hicolor/scalable/apps)
+foreach(size 16 22 24 32 48 64 128 256)
+    install(FILES ${PACKAGING}/icons/palace-lantern-${size}.png
+            DESTINATION share/icons/hicolor/${size}x${size}/apps RENAME palace-lantern.png)
+endforeach()
+install(DIRECTORY ${PROJECT_SOURCE_DIR}/help DESTINATION share/palace-lantern)
+install(FILES ${PACKAGING}/debian-copyright DESTINATION share/doc/palace-lantern RENAME copyright)
+
+function(install_compressed source destination name)
+    execute_process(COMMAND gzip -9nc ${PACKAGING}/${source} OUTPUT_FILE ${CMAKE_BINARY_DIR}/packaging/${name}
+                    COMMAND_ERROR_IS_FATAL ANY)
+    install(FILES ${CMAKE_BINARY_DIR}/packaging/${name} DESTINATION ${destination})
+endfunction()
+install_compressed(changelog share/doc/palace-lantern changelog.gz)
+install_compressed(palace-lantern.1 share/man/man1 palace-lantern.1.gz)

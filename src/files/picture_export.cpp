@@ -72,8 +72,11 @@ void convert(const QString& converter, const std::string& bitmapPath, const std:
 
 void exportPicture(const QPixmap& picture, const QString& converter, QWidget* parent) {
     const QString chosen = askForPictureName(parent);
-    if (chosen.isEmpty()) return;
-    const PictureName name = nameFor(QFile::encodeName(chosen).toStdString());
+    if (!chosen.isEmpty()) savePictureAs(picture, chosen, converter, parent);
+}
+
+void savePictureAs(const QPixmap& picture, const QString& chosenPath, const QString& converter, QWidget* parent) {
+    const PictureName name = nameFor(QFile::encodeName(chosenPath).toStdString());
     if (name.tooManyCopies) tellTooManyCopies(name.name, parent);
     const std::string bitmapPath = freeBitmapPath(name.path());
     const LitterGuard guard{bitmapPath};
