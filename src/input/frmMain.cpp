@@ -10,6 +10,7 @@
 #include <QPushButton>
 #include <QScreen>
 #include <QScrollArea>
+#include <QScrollBar>
 
 #include "files/chart_file.h"
 #include "files/file_dialogs.h"
@@ -265,9 +266,14 @@ void frmMain::closeEvent(QCloseEvent* event) {
 // Escape in the first window of the program would lose what was entered: it does nothing.
 void frmMain::reject() {}
 
-// As large as its content, unless the screen is smaller; then it scrolls.
+// As large as its content and in the middle of the screen. Where the screen is smaller, the form scrolls.
 void frmMain::fitToScreen() {
-    const QSize whole = scroll_->widget()->sizeHint() + QSize{0, layout()->menuBar()->sizeHint().height()};
-    const QSize room = screen()->availableSize() - QSize{16, 40};
-    resize(whole.boundedTo(room));
+    const QRect available = screen()->availableGeometry();
+    const QSize room = available.size() - QSize{16, 40};
+    QSize size = scroll_->widget()->sizeHint() + QSize{0, layout()->menuBar()->sizeHint().height()};
+    if (size.height() > room.height()) size.rwidth() += scroll_->verticalScrollBar()->sizeHint().width();
+    size = size.boundedTo(room);
+    resize(size);
+    const QSize rest = (available.size() - size) / 2;
+    move(available.topLeft() + QPoint{rest.width(), rest.height() / 2});
 }

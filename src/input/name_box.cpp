@@ -14,16 +14,8 @@
 
 namespace {
 
-// Keys held with Ctrl, Alt or the like are commands; AltGr, which reports Ctrl and Alt together on some
-// systems, writes characters.
-bool isCommand(const QKeyEvent& event) {
-    const auto held = event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
-    return held != Qt::NoModifier && held != (Qt::ControlModifier | Qt::AltModifier);
-}
-
-bool entersText(const QKeyEvent& event) {
-    return !isCommand(event) && !event.text().isEmpty() && event.text().front() >= QLatin1Char(' ') &&
-           event.text().front() != QChar{0x7F};
+bool hasText(const QKeyEvent& event) {
+    return !event.text().isEmpty() && event.text().front() >= QLatin1Char(' ') && event.text().front() != QChar{0x7F};
 }
 
 }  // namespace
@@ -37,13 +29,19 @@ QString NameBox::filtered(const QString& text, bool& rejectedAny) const {
     return QString::fromStdU16String(name.accepted);
 }
 
+// Ctrl makes a key a command of the box, Alt or Meta a command of the window, whose letter must not be typed
+// here. AltGr, which is reported as Ctrl and Alt together on some systems, writes characters.
 void NameBox::keyPressEvent(QKeyEvent* event) {
+    const auto held = event->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
+    const bool writes = held == Qt::NoModifier || held == (Qt::ControlModifier | Qt::AltModifier);
     if (event->matches(QKeySequence::Paste)) {
         insertFiltered(QGuiApplication::clipboard()->mimeData());
-    } else if (entersText(*event)) {
+    } else if (!hasText(*event) || held == Qt::ControlModifier) {
+        QLineEdit::keyPressEvent(event);
+    } else if (writes) {
         typeFiltered(event);
     } else {
-        QLineEdit::keyPressEvent(event);
+        event->ignore();
     }
 }
 
