@@ -4,7 +4,6 @@
 #include <QComboBox>
 #include <QFile>
 #include <QGridLayout>
-#include <QGroupBox>
 #include <QLabel>
 #include <QMenuBar>
 #include <QPushButton>
@@ -15,6 +14,7 @@
 #include "files/chart_file.h"
 #include "files/file_dialogs.h"
 #include "input/birth_lists.h"
+#include "input/details_frame.h"
 #include "input/name_box.h"
 #include "style/link_label.h"
 #include "style/look.h"
@@ -124,7 +124,7 @@ QWidget* frmMain::createDetails() {
     cmbMinute = listNamed("cmbMinute", "Minutes");
     connect(txtName, &NameBox::rejected, this, &frmMain::txtName_KeyRejected);
 
-    auto* details = new QGroupBox{tr("Enter your Details")};
+    auto* details = new DetailsFrame{tr("Enter your Details")};
     auto* grid = new QGridLayout{details};
     grid->setHorizontalSpacing(12);
     grid->setColumnStretch(2, 1);
