@@ -51,6 +51,7 @@ void Application::connectChart() {
     connect(frame_.get(), &frmMdi::showAllRequested, this, &Application::openAllPalaces);
     connect(frame_.get(), &frmMdi::savePictureRequested, this, &Application::savePicture);
     connect(frame_.get(), &frmMdi::backRequested, this, &Application::goBack);
+    connect(frame_.get(), &frmMdi::menuKeyPressed, display_, &frmDisplay::openMenu);
     connect(frame_.get(), &frmMdi::exitRequested, this, &Application::unloadAll);
     connect(frame_.get(), &frmMdi::homePageRequested, this, [this] { openPage(WebPage::home, frame_.get()); });
 }

@@ -1,10 +1,13 @@
 #include "app/frmMdi.h"
 
 #include <QCloseEvent>
+#include <QKeyEvent>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QPushButton>
 #include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QVBoxLayout>
 
 #include "app/strip_places.h"
@@ -32,7 +35,7 @@ frmMdi::frmMdi() {
     auto* rows = new QVBoxLayout{this};
     rows->setContentsMargins(0, 0, 0, 0);
     rows->setSpacing(0);
-    rows->addWidget(Picture2);
+    rows->addWidget(stripView_);
     rows->addWidget(area_);
     MDIForm_Load();
 }
@@ -46,6 +49,12 @@ void frmMdi::MDIForm_Load() {
 void frmMdi::createStrip() {
     Picture2 = new QWidget;
     Picture2->setObjectName(QStringLiteral("Picture2"));
+    // The strip is as wide as the screen; in a frame that was made smaller, it scrolls.
+    stripView_ = new QScrollArea;
+    stripView_->setFrameShape(QFrame::NoFrame);
+    stripView_->setFocusPolicy(Qt::NoFocus);
+    stripView_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    stripView_->setWidget(Picture2);
     lblBanner = new LinkLabel{look::productName(), Picture2};
     lblBanner->setObjectName(QStringLiteral("lblBanner"));
     QFont title = lblBanner->font();
@@ -91,7 +100,10 @@ void frmMdi::placeStrip() {
     place(cmdShowAll, places.cmdShowAll);
     place(cmdBack, places.cmdBack);
     place(cmdMdiExit, places.cmdMdiExit);
-    Picture2->setFixedHeight(2 * margin + rowHeight + (narrow ? lblBanner->height() : 0));
+    Picture2->resize(screen()->size().width(), 2 * margin + rowHeight + (narrow ? lblBanner->height() : 0));
+    const bool scrolls = width() < Picture2->width();
+    const int bar = scrolls ? stripView_->horizontalScrollBar()->sizeHint().height() : 0;
+    stripView_->setFixedHeight(Picture2->height() + bar);
 }
 
 void frmMdi::hostChart(QWidget* chart, std::function<QSize(QSize)> fit) {
@@ -125,7 +137,8 @@ void frmMdi::placeChart() {
     const QSize size = fit_(room - decoration) + decoration;
     const int width = std::min(screen()->size().width(), room.width());
     const int left = pixels(centredLeft(twips(width), twips(size.width())));
-    chartWindow_->setGeometry(left, std::max(0, (room.height() - size.height()) / 2), size.width(), size.height());
+    chartWindow_->setFixedSize(size);
+    chartWindow_->move(left, std::max(0, (room.height() - size.height()) / 2));
 }
 
 void frmMdi::resizeEvent(QResizeEvent* event) {
@@ -144,6 +157,12 @@ bool frmMdi::eventFilter(QObject* watched, QEvent* event) {
     const bool handled = QWidget::eventFilter(watched, event);
     if (resized) QMetaObject::invokeMethod(this, &frmMdi::placeChart, Qt::QueuedConnection);
     return handled;
+}
+
+// The chart window's menus hear their access keys only while the focus is in that window.
+void frmMdi::keyPressEvent(QKeyEvent* event) {
+    if (event->modifiers() == Qt::AltModifier) emit menuKeyPressed(event->key());
+    QWidget::keyPressEvent(event);
 }
 
 void frmMdi::closeEvent(QCloseEvent* event) {

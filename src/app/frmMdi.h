@@ -8,6 +8,7 @@ class LinkLabel;
 class QMdiArea;
 class QMdiSubWindow;
 class QPushButton;
+class QScrollArea;
 
 class frmMdi : public QWidget {
     Q_OBJECT
@@ -26,9 +27,11 @@ class frmMdi : public QWidget {
     void backRequested();
     void exitRequested();
     void homePageRequested();
+    void menuKeyPressed(int key);  // a letter with Alt that no control of the frame answers to
 
   protected:
     void closeEvent(QCloseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
@@ -40,6 +43,7 @@ class frmMdi : public QWidget {
     void placeChart();
     int screenTwips() const;
 
+    QScrollArea* stripView_;
     QWidget* Picture2;
     LinkLabel* lblBanner;
     QPushButton* cmdSavePicture;

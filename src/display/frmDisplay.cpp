@@ -132,6 +132,13 @@ void frmDisplay::createMenus() {
     connect(mnuHelp, &HelpMenu::aboutRequested, this, &frmDisplay::aboutRequested);
 }
 
+void frmDisplay::openMenu(int key) {
+    const QKeySequence wanted{QKeyCombination{Qt::ALT, static_cast<Qt::Key>(key)}};
+    for (QAction* menu : menus_->actions()) {
+        if (QKeySequence::mnemonic(menu->text()) == wanted) menus_->setActiveAction(menu);
+    }
+}
+
 void frmDisplay::createCells() {
     const auto table = cellLabels();
     for (const CellIndex cell : allCells) {

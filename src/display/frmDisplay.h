@@ -28,6 +28,9 @@ class frmDisplay : public QWidget {
     // window's size then, at most as large as the room.
     QSize fitInto(const QSize& room);
 
+    // Opens the menu whose access key this is, if there is one.
+    void openMenu(int key);
+
     // The client area as on the screen, at the screen's own resolution, without the menu.
     QPixmap clientPicture();
 
