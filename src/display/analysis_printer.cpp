@@ -10,45 +10,42 @@
 #include <QTextCursor>
 #include <QTextDocumentFragment>
 #include <QTextEdit>
+#include <cmath>
 
 namespace {
 
 constexpr QMarginsF paperMargins{20, 18, 20, 18};  // millimetres
 
-void keepParagraphsWhole(QTextDocument& document) {
-    QTextCursor all{&document};
-    all.select(QTextCursor::Document);
-    QTextBlockFormat format;
-    format.setNonBreakableLines(true);
-    all.mergeBlockFormat(format);
-}
-
-int pageOf(const QTextBlock& block) {
-    const QTextDocument* document = block.document();
-    const QRectF place = document->documentLayout()->blockBoundingRect(block);
-    return static_cast<int>(place.top() / document->pageSize().height());
-}
-
-bool isEmpty(const QTextBlock& block) { return block.text().trimmed().isEmpty(); }
-
-QTextBlock nextWithText(QTextBlock block) {
-    do {
-        block = block.next();
-    } while (block.isValid() && isEmpty(block));
-    return block;
-}
-
 // The details line ends in ":-" as the headings do, but its text follows as a paragraph of its own.
 bool announcesNext(const QTextBlock& block) { return block.text().trimmed().endsWith(QStringLiteral(":-")); }
 
-void keepAnnouncementsWithTheirText(QTextDocument& document) {
+QTextBlock previousWithText(QTextBlock block) {
+    do {
+        block = block.previous();
+    } while (block.isValid() && block.text().trimmed().isEmpty());
+    return block;
+}
+
+QRectF placeOf(const QTextBlock& block) { return block.document()->documentLayout()->blockBoundingRect(block); }
+
+bool isTorn(double top, double bottom, double pageHeight) {
+    const bool fitsOnPage = bottom - top < pageHeight;
+    return fitsOnPage && std::floor(top / pageHeight) != std::floor((bottom - 1) / pageHeight);
+}
+
+// The toolkit breaks pages between any two lines. A paragraph that would be torn, with the line that announces
+// it, begins the next page instead; what comes after moves along.
+void keepParagraphsWhole(QTextDocument& document) {
+    const double pageHeight = document.pageSize().height();
     for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
-        if (!announcesNext(block)) continue;
-        const QTextBlock next = nextWithText(block);
-        if (!next.isValid() || pageOf(next) == pageOf(block)) continue;
-        QTextBlockFormat format = block.blockFormat();
+        if (block.text().trimmed().isEmpty()) continue;
+        const QTextBlock before = previousWithText(block);
+        const QTextBlock first = before.isValid() && announcesNext(before) ? before : block;
+        if (!isTorn(placeOf(first).top(), placeOf(block).bottom(), pageHeight)) continue;
+        QTextBlockFormat format = first.blockFormat();
         format.setPageBreakPolicy(QTextFormat::PageBreak_AlwaysBefore);
-        QTextCursor{block}.setBlockFormat(format);
+        QTextCursor{first}.setBlockFormat(format);
+        document.setPageSize(document.pageSize());  // lays the whole text out again, to the very end
     }
 }
 
@@ -65,17 +62,17 @@ std::unique_ptr<QTextDocument> printedPart(const QTextEdit& text) {
 
 void printOnPaper(const QTextDocument& text, QPrinter& printer) {
     const std::unique_ptr<QTextDocument> paper{text.clone()};
-    keepParagraphsWhole(*paper);
     paper->setDocumentMargin(0);
     paper->documentLayout()->setPaintDevice(&printer);
     const QRectF page = printer.pageLayout().paintRectPixels(printer.resolution());
     paper->setPageSize(page.size());
-    keepAnnouncementsWithTheirText(*paper);
+    keepParagraphsWhole(*paper);
     QPainter painter;
     if (!painter.begin(&printer)) return;
     for (int number = 0; number < paper->pageCount(); ++number) {
         if (number > 0 && !printer.newPage()) return;
-        const QRectF view{0, number * page.height(), page.width(), page.height()};
+        // One dot less than the page, or a line at the top of the next one would count as part of it.
+        const QRectF view{0, number * page.height(), page.width(), page.height() - 1};
         painter.save();
         painter.translate(0, -view.top());
         paper->drawContents(&painter, view);
