@@ -6,8 +6,6 @@
 #include <QString>
 #include <QWidget>
 
-#include "interpret/text_run.h"
-
 namespace look {
 
 // The colours come from the analysis; the papers are the light grounds on which they are read, whatever the
