@@ -46,17 +46,21 @@ void Application::connectChart() {
     connect(display_, &frmDisplay::backRequested, this, &Application::goBack);
     connect(display_, &frmDisplay::exitRequested, this, &Application::unloadAll);
     connect(display_, &frmDisplay::tabbedOut, frame_.get(), &frmMdi::focusStrip);
-    connect(display_, &frmDisplay::pageRequested, this, [this](WebPage page) { openPage(page, frame_.get()); });
+    connect(display_, &frmDisplay::pageRequested, this,
+            [this](WebPage page) { openPage(page, frame_.get()); });
     connect(display_, &frmDisplay::aboutRequested, this, [this] { showAbout(frame_.get()); });
     connect(frame_.get(), &frmMdi::showAllRequested, this, &Application::openAllPalaces);
     connect(frame_.get(), &frmMdi::savePictureRequested, this, &Application::savePicture);
     connect(frame_.get(), &frmMdi::backRequested, this, &Application::goBack);
     connect(frame_.get(), &frmMdi::menuKeyPressed, display_, &frmDisplay::openMenu);
     connect(frame_.get(), &frmMdi::exitRequested, this, &Application::unloadAll);
-    connect(frame_.get(), &frmMdi::homePageRequested, this, [this] { openPage(WebPage::home, frame_.get()); });
+    connect(frame_.get(), &frmMdi::homePageRequested, this,
+            [this] { openPage(WebPage::home, frame_.get()); });
 }
 
-void Application::openPalace(int cell) { openAnalysis(AnalysisKind::onePalace, composePalaceAnalysis(chart_, cell)); }
+void Application::openPalace(int cell) {
+    openAnalysis(AnalysisKind::onePalace, composePalaceAnalysis(chart_, cell));
+}
 
 void Application::openAllPalaces() { openAnalysis(AnalysisKind::allPalaces, composeAllPalaces(chart_)); }
 

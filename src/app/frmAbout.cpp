@@ -27,7 +27,8 @@ frmAbout::frmAbout(QWidget* parent) : QDialog(parent) {
     title.setPointSizeF(title.pointSizeF() * 1.7);
     title.setBold(true);
     name->setFont(title);
-    QLabel* purpose = plainLabel(tr("Casts a Zi Wei Dou Shu birth chart and explains it in plain English."), "lblPurpose");
+    QLabel* purpose =
+        plainLabel(tr("Casts a Zi Wei Dou Shu birth chart and explains it in plain English."), "lblPurpose");
     purpose->setWordWrap(true);
     purpose->setMinimumWidth(260);
     auto* cmdOk = new QPushButton{tr("&OK")};
@@ -40,7 +41,8 @@ frmAbout::frmAbout(QWidget* parent) : QDialog(parent) {
     grid->setHorizontalSpacing(16);
     grid->addWidget(mark, 0, 0, 3, 1, Qt::AlignTop);
     grid->addWidget(name, 0, 1);
-    grid->addWidget(plainLabel(tr("Version %1").arg(QStringLiteral(PALACE_LANTERN_VERSION)), "lblVersion"), 1, 1);
+    grid->addWidget(plainLabel(tr("Version %1").arg(QStringLiteral(PALACE_LANTERN_VERSION)), "lblVersion"), 1,
+                    1);
     grid->addWidget(purpose, 2, 1);
     grid->addWidget(cmdOk, 3, 1, Qt::AlignRight);
 }

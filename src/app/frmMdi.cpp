@@ -16,9 +16,9 @@
 
 namespace {
 
-constexpr int buttonWidth = 1215;   // twips
-constexpr int buttonHeight = 390;   // twips
-constexpr int stripMargin = 75;     // twips
+constexpr int buttonWidth = 1215;  // twips
+constexpr int buttonHeight = 390;  // twips
+constexpr int stripMargin = 75;    // twips
 
 int pixels(int twips) { return qRound(twips / look::twipsPerPixel); }
 int twips(int pixelCount) { return qRound(pixelCount * look::twipsPerPixel); }
@@ -91,7 +91,8 @@ void frmMdi::placeStrip() {
     const int bannerLeft = pixels(centredLeft(screenTwips(), twips(lblBanner->width())));
     const bool narrow = bannerLeft + lblBanner->width() + margin > pixels(places.cmdSavePicture);
     const int rowHeight = std::max(pixels(buttonHeight), lblBanner->height());
-    const int buttonTop = margin + (rowHeight - pixels(buttonHeight)) / 2 + (narrow ? lblBanner->height() : 0);
+    const int buttonTop =
+        margin + (rowHeight - pixels(buttonHeight)) / 2 + (narrow ? lblBanner->height() : 0);
     lblBanner->move(bannerLeft, margin + (narrow ? 0 : (rowHeight - lblBanner->height()) / 2));
     const auto place = [buttonTop](QPushButton* button, int left) {
         button->setGeometry(pixels(left), buttonTop, pixels(buttonWidth), pixels(buttonHeight));

@@ -15,7 +15,8 @@ class frmMdi : public QWidget {
   public:
     frmMdi();
 
-    // Takes the chart window in. `fit` is told how much room there is and returns the size that the window takes.
+    // Takes the chart window in. `fit` is told how much room there is and returns the size that the window
+    // takes.
     void hostChart(QWidget* chart, std::function<QSize(QSize)> fit);
 
     // Puts the focus on the strip's first control, or on its last.

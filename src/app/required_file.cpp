@@ -12,6 +12,7 @@ QString converterPath() {
 
 bool requiredFileIsPresent() {
     if (QFileInfo::exists(converterPath())) return true;
-    showMessage(nullptr, QMessageBox::Critical, QStringLiteral("Required File Is Missing\nPlease Reinstall Software"));
+    showMessage(nullptr, QMessageBox::Critical,
+                QStringLiteral("Required File Is Missing\nPlease Reinstall Software"));
     return false;
 }

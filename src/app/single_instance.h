@@ -9,8 +9,8 @@ class SingleInstance {
     // Tries to become the one. A lock that a killed program left behind does not count.
     SingleInstance();
 
-    // Whether another program of this user is running. Where nothing can be locked at all, nothing is known of
-    // another one, and the answer is no.
+    // Whether another program of this user is running. Where nothing can be locked at all, nothing is known
+    // of another one, and the answer is no.
     bool anotherIsRunning() const { return anotherIsRunning_; }
 
   private:

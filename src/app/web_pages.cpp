@@ -24,15 +24,18 @@ QString fileNameOf(WebPage page) {
 QDir helpFolder() {
     const QDir program{QCoreApplication::applicationDirPath()};
     const QDir beside{program.filePath(QStringLiteral("help"))};
-    return beside.exists() ? beside : QDir{program.filePath(QStringLiteral("../../share/palace-lantern/help"))};
+    return beside.exists() ? beside
+                           : QDir{program.filePath(QStringLiteral("../../share/palace-lantern/help"))};
 }
 
 }  // namespace
 
 QUrl addressOf(WebPage page) {
     const QString base = QStringLiteral(PALACE_LANTERN_WEB_BASE);
-    if (base.isEmpty()) return QUrl::fromLocalFile(QDir::cleanPath(helpFolder().absoluteFilePath(fileNameOf(page))));
-    return QUrl{base.endsWith(QLatin1Char('/')) ? base : base + QLatin1Char('/')}.resolved(QUrl{fileNameOf(page)});
+    if (base.isEmpty())
+        return QUrl::fromLocalFile(QDir::cleanPath(helpFolder().absoluteFilePath(fileNameOf(page))));
+    return QUrl{base.endsWith(QLatin1Char('/')) ? base : base + QLatin1Char('/')}.resolved(
+        QUrl{fileNameOf(page)});
 }
 
 void openPage(WebPage page, QWidget* parent) {
@@ -40,5 +43,6 @@ void openPage(WebPage page, QWidget* parent) {
     if (QDesktopServices::openUrl(address)) return;
     showMessage(parent, QMessageBox::Information,
                 QStringLiteral("No browser could be opened. You find the page here:\n%1")
-                    .arg(address.isLocalFile() ? QDir::toNativeSeparators(address.toLocalFile()) : address.toString()));
+                    .arg(address.isLocalFile() ? QDir::toNativeSeparators(address.toLocalFile())
+                                               : address.toString()));
 }

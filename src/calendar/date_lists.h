@@ -24,7 +24,9 @@ struct DateLists {
     constexpr int day() const { return dayPosition + 1; }
 
     // The English month name as its list shows it.
-    constexpr std::string_view monthText() const { return monthNames.at(static_cast<std::size_t>(monthPosition)); }
+    constexpr std::string_view monthText() const {
+        return monthNames.at(static_cast<std::size_t>(monthPosition));
+    }
 
     // The number that the year list's text reads as, 1970..2012.
     constexpr int year() const { return firstYear + yearPosition; }

@@ -19,7 +19,8 @@ bool isGap(const Row& row, int month, int day) {
 std::int16_t numberOn(const Row& row, int month, int day) {
     if (isGap(row, month, day)) return 0;
     for (const auto& beyond : lunar_table::beyondFebruary) {
-        if (beyond.year == row.year && month == lunar_table::Feb && day >= beyond.firstDay) return beyond.number;
+        if (beyond.year == row.year && month == lunar_table::Feb && day >= beyond.firstDay)
+            return beyond.number;
     }
     std::int16_t number = 0;
     for (const Begin& begin : row.begins) {

@@ -97,7 +97,8 @@ constexpr bool rowsAreSound() {
     for (std::size_t position = 0; position < rows.size(); ++position) {
         const Row& row = rows[position];
         const Begin& first = row.begins.front();
-        if (row.year != firstYear + static_cast<int>(position) || first.day != 1 || first.month != Jan) return false;
+        if (row.year != firstYear + static_cast<int>(position) || first.day != 1 || first.month != Jan)
+            return false;
         if (first.number != number && first.number != number + 1) return false;
         int lastDate = 0;
         for (const Begin& begin : row.begins) {

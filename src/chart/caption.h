@@ -1,5 +1,5 @@
-// The text of one label of the chart. Every text that a label can show is a few characters long, so it is held
-// in place: casting a chart allocates nothing, and clearing one is as cheap as clearing numbers.
+// The text of one label of the chart. Every text that a label can show is a few characters long, so it is
+// held in place: casting a chart allocates nothing, and clearing one is as cheap as clearing numbers.
 #pragma once
 
 #include <array>

@@ -1,5 +1,5 @@
-// The chart: twelve palace cells and a few chart-wide values. The placement rules fill it; the chart window and
-// the composer of the analysis read it. Fields of a cell bear the names of the labels that show them.
+// The chart: twelve palace cells and a few chart-wide values. The placement rules fill it; the chart window
+// and the composer of the analysis read it. Fields of a cell bear the names of the labels that show them.
 #pragma once
 
 #include <array>
@@ -14,7 +14,8 @@
 inline constexpr std::array<Caption, cellCount> branchNames{"Yin",  "Mao", "Chen", "Si",  "Wu", "Wei",
                                                             "Shen", "You", "Xu",   "Hai", "Zi", "Chou"};
 
-// A palace cell. The captions hold one text each; a flag says whether the star of that name stands in the cell.
+// A palace cell. The captions hold one text each; a flag says whether the star of that name stands in the
+// cell.
 struct ChartCell {
     Caption lblPalace;
     Caption lblPalaceSteam;
@@ -112,6 +113,7 @@ inline constexpr std::array<FlagField, 15> flagFields{{
 
 // The stars whose cells the chart records: the fourteen major stars in the order of their placement, then the
 // minor stars that the day stars, the transformations or the analysis look up.
+// clang-format off
 enum class Star : std::uint8_t {
     ZiWei, TianJi, TaiYang, WuQu, TianTong, LianZhen,                              // the Zi Wei group
     TianFu, TaiYin, TanLang, JuMen, TianXiang, TianLiang, QiSha, PoJun,            // the Tian Fu group
@@ -120,9 +122,11 @@ enum class Star : std::uint8_t {
     SanTai, BaZuo, EnGuang, TianGui,                                               // the day stars
     LuCun, QingYang, TuoLuo, TianKui, TianYueTwo, TianGuan, TianFutwo,             // the year-stem stars
 };
+// clang-format on
 inline constexpr std::size_t starCount = static_cast<std::size_t>(Star::TianFutwo) + 1;
 
-// What a person entered, kept as entered: the midnight rule does not touch it. The chart file is written from it.
+// What a person entered, kept as entered: the midnight rule does not touch it. The chart file is written from
+// it.
 struct ChartInput {
     std::u16string name;  // without blanks at either end
     std::int16_t year = 0;
@@ -132,17 +136,17 @@ struct ChartInput {
 
 struct ChartModel {
     ChartInput input;
-    std::int16_t lunarMonth = 0;        // 1..12, 0 where no look-up has found a number yet
-    std::int16_t doubleHour = 0;        // 1 = "Zi" .. 12 = "Hai"
-    std::int16_t yearDigit = 0;         // the last decimal digit of the year
+    std::int16_t lunarMonth = 0;  // 1..12, 0 where no look-up has found a number yet
+    std::int16_t doubleHour = 0;  // 1 = "Zi" .. 12 = "Hai"
+    std::int16_t yearDigit = 0;   // the last decimal digit of the year
     Caption yearStem;
     CellIndex lifePalace;
     CellIndex bodyPalace;
-    Caption lblLifePalaceat;            // the branch of the Life Palace's cell
-    Caption lblBodyPalaceat;            // the branch of the Body Palace's cell
-    Caption lblElement;                 // the five-element bureau
-    Caption ziWeiBranch;                // kept from chart to chart
-    CellIndex ziWeiCell;                // kept from chart to chart; cell 0 before the first
+    Caption lblLifePalaceat;  // the branch of the Life Palace's cell
+    Caption lblBodyPalaceat;  // the branch of the Body Palace's cell
+    Caption lblElement;       // the five-element bureau
+    Caption ziWeiBranch;      // kept from chart to chart
+    CellIndex ziWeiCell;      // kept from chart to chart; cell 0 before the first
     std::array<CellIndex, starCount> starCells;
     std::array<ChartCell, cellCount> cells;
 

@@ -39,7 +39,8 @@ bool advanceByOneDay(DateLists& lists) {
         return true;
     }
     if (lists.monthPosition == december) {
-        if (lists.yearPosition == turnlessYearPosition || lists.yearPosition == lastYearPosition) return false;
+        const int year = lists.yearPosition;
+        if (year == turnlessYearPosition || year == lastYearPosition) return false;
         ++lists.yearPosition;
     }
     lists.dayPosition = 0;

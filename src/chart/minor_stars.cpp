@@ -38,18 +38,18 @@ struct MonthFlags {
 };
 constexpr std::array<MonthFlags, 12> monthFlags{{
     // Jie Shen, Tian Wu, Tian Yue, Yin Sha
-    {6, 3, 8, 0},  // 1
+    {6, 3, 8, 0},   // 1
     {6, 6, 3, 10},  // 2
-    {8, 0, 2, 8},  // 3
-    {8, 9, 0, 6},  // 4
+    {8, 0, 2, 8},   // 3
+    {8, 9, 0, 6},   // 4
     {10, 3, 5, 4},  // 5
     {10, 6, 1, 2},  // 6
-    {0, 0, 9, 0},  // 7
+    {0, 0, 9, 0},   // 7
     {0, 9, 5, 10},  // 8
-    {2, 3, 0, 8},  // 9
-    {2, 6, 4, 6},  // 10
-    {4, 0, 8, 4},  // 11
-    {4, 9, 0, 2},  // 12
+    {2, 3, 0, 8},   // 9
+    {2, 6, 4, 6},   // 10
+    {4, 0, 8, 4},   // 11
+    {4, 9, 0, 2},   // 12
 }};
 
 // A star counted from another star's cell by the day's remainder r = day mod 12.
@@ -62,10 +62,10 @@ struct DayStar {
     int offset;
 };
 constexpr std::array<DayStar, 4> dayStars{{
-    {Star::SanTai, "San Tai", &ChartCell::lblSanTai, Star::ZuoFu, +1, -1},       // Zuo Fu + r - 1
-    {Star::BaZuo, "Ba Zuo", &ChartCell::lblBaZuo, Star::YouBi, -1, +1},          // You Bi - r + 1
-    {Star::EnGuang, "En Guang", &ChartCell::lblEnGuang, Star::WenChang, +1, -2}, // Wen Chang + r - 2
-    {Star::TianGui, "Tian Gui", &ChartCell::lblTianGui, Star::WenQu, +1, -2},    // Wen Qu + r - 2
+    {Star::SanTai, "San Tai", &ChartCell::lblSanTai, Star::ZuoFu, +1, -1},        // Zuo Fu + r - 1
+    {Star::BaZuo, "Ba Zuo", &ChartCell::lblBaZuo, Star::YouBi, -1, +1},           // You Bi - r + 1
+    {Star::EnGuang, "En Guang", &ChartCell::lblEnGuang, Star::WenChang, +1, -2},  // Wen Chang + r - 2
+    {Star::TianGui, "Tian Gui", &ChartCell::lblTianGui, Star::WenQu, +1, -2},     // Wen Qu + r - 2
 }};
 
 template <std::size_t count>

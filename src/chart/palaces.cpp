@@ -8,7 +8,8 @@ constexpr std::array<Caption, 12> palaceNames{"Life Palace", "Siblings", "Marria
                                               "Career",      "Property", "Fortune",  "Parents"};
 
 // The palace stems, beginning with Bing, as the Five Tigers rule counts them from the cell "Yin".
-constexpr std::array<Caption, 10> stemNames{"Bing", "Ding", "Wu", "Ji", "Geng", "Xin", "Ren", "Gui", "Jia", "Yi"};
+constexpr std::array<Caption, 10> stemNames{"Bing", "Ding", "Wu",  "Ji",  "Geng",
+                                            "Xin",  "Ren",  "Gui", "Jia", "Yi"};
 
 // By the last digit of the year: the year's stem, and the stem of cell 0 as an index into stemNames.
 struct YearStem {
@@ -30,17 +31,21 @@ constexpr std::array<YearStem, 10> yearStems{{
 
 // The bureau's element, by the pair of cells that holds the Life Palace and by the year's last digit; the
 // digits 5 to 9 repeat the columns of 0 to 4.
+// clang-format off
 constexpr std::array<std::array<Caption, 5>, 6> elements{{
-    //  0 or 5    1 or 6    2 or 7    3 or 8    4 or 9
-    {"Earth", "Wood", "Metal", "Water", "Fire"},   // Yin, Mao
-    {"Metal", "Water", "Fire", "Earth", "Wood"},   // Chen, Si
-    {"Wood", "Metal", "Water", "Fire", "Earth"},   // Wu, Wei
-    {"Water", "Fire", "Earth", "Wood", "Metal"},   // Shen, You
-    {"Earth", "Wood", "Metal", "Water", "Fire"},   // Xu, Hai
-    {"Fire", "Earth", "Wood", "Metal", "Water"},   // Zi, Chou
+    // 0 or 5  1 or 6   2 or 7   3 or 8   4 or 9
+    {"Earth", "Wood",  "Metal", "Water", "Fire"},   // Yin, Mao
+    {"Metal", "Water", "Fire",  "Earth", "Wood"},   // Chen, Si
+    {"Wood",  "Metal", "Water", "Fire",  "Earth"},  // Wu, Wei
+    {"Water", "Fire",  "Earth", "Wood",  "Metal"},  // Shen, You
+    {"Earth", "Wood",  "Metal", "Water", "Fire"},   // Xu, Hai
+    {"Fire",  "Earth", "Wood",  "Metal", "Water"},  // Zi, Chou
 }};
+// clang-format on
 
-const YearStem& yearStemOf(const ChartModel& chart) { return yearStems[static_cast<std::size_t>(chart.yearDigit)]; }
+const YearStem& yearStemOf(const ChartModel& chart) {
+    return yearStems[static_cast<std::size_t>(chart.yearDigit)];
+}
 
 }  // namespace
 

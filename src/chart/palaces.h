@@ -1,4 +1,5 @@
-// The palaces: the Life Palace and the twelve names, the Body Palace, the palace stems, the five-element bureau.
+// The palaces: the Life Palace and the twelve names, the Body Palace, the palace stems, the five-element
+// bureau.
 #pragma once
 
 #include "chart/chart_model.h"

@@ -2,8 +2,8 @@
 
 namespace {
 
-// The cells of the year-stem stars, one row a last digit of the year. Kept on purpose: Qing Yang stands before
-// Lu Cun and Tuo Luo after it, and Tian Kui and Tian Yue stand apart for Xin and for Bing and Ding.
+// The cells of the year-stem stars, one row a last digit of the year. Kept on purpose: Qing Yang stands
+// before Lu Cun and Tuo Luo after it, and Tian Kui and Tian Yue stand apart for Xin and for Bing and Ding.
 struct StemCells {
     int lblLuCun;
     int lblQingYang;
@@ -52,8 +52,8 @@ constexpr std::array<Transformed, 10> transformations{{
 
 constexpr bool stemCellsAreSound() {
     for (const StemCells& row : stemCells) {
-        for (const int cell : {row.lblLuCun, row.lblQingYang, row.lblTuoLuo, row.lblTianKui, row.lblTianYueTwo,
-                               row.lblTianGuan, row.lblTianFutwo}) {
+        for (const int cell : {row.lblLuCun, row.lblQingYang, row.lblTuoLuo, row.lblTianKui,
+                               row.lblTianYueTwo, row.lblTianGuan, row.lblTianFutwo}) {
             if (cell < 0 || cell >= cellCount) return false;
         }
         if (CellIndex{row.lblQingYang} != CellIndex{row.lblLuCun} - 1) return false;
@@ -69,8 +69,12 @@ void raiseYearStemStars(ChartModel& chart) {
     const auto digit = static_cast<std::size_t>(chart.yearDigit);
     const StemCells& at = stemCells[digit];
     const Transformed& marked = transformations[digit];
-    const auto raise = [&chart](bool ChartCell::*flag, int cell) { chart.cell(CellIndex{cell}).*flag = true; };
-    const auto mark = [&chart](bool ChartCell::*flag, Star star) { chart.cell(chart.cellOf(star)).*flag = true; };
+    const auto raise = [&chart](bool ChartCell::*flag, int cell) {
+        chart.cell(CellIndex{cell}).*flag = true;
+    };
+    const auto mark = [&chart](bool ChartCell::*flag, Star star) {
+        chart.cell(chart.cellOf(star)).*flag = true;
+    };
 
     raise(&ChartCell::lblLuCun, at.lblLuCun);
     raise(&ChartCell::lblQingYang, at.lblQingYang);

@@ -46,7 +46,8 @@ constexpr std::array<std::array<Caption, elementNames.size()>, 30> ziWeiBranches
 
 std::optional<Caption> branchFor(const Caption& element, int dayPosition) {
     const auto column = std::find(elementNames.begin(), elementNames.end(), element);
-    if (column == elementNames.end() || dayPosition >= static_cast<int>(ziWeiBranches.size())) return std::nullopt;
+    if (column == elementNames.end() || dayPosition >= static_cast<int>(ziWeiBranches.size()))
+        return std::nullopt;
     return ziWeiBranches[static_cast<std::size_t>(dayPosition)]
                         [static_cast<std::size_t>(column - elementNames.begin())];
 }

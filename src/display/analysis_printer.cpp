@@ -26,15 +26,17 @@ QTextBlock previousWithText(QTextBlock block) {
     return block;
 }
 
-QRectF placeOf(const QTextBlock& block) { return block.document()->documentLayout()->blockBoundingRect(block); }
+QRectF placeOf(const QTextBlock& block) {
+    return block.document()->documentLayout()->blockBoundingRect(block);
+}
 
 bool isTorn(double top, double bottom, double pageHeight) {
     const bool fitsOnPage = bottom - top < pageHeight;
     return fitsOnPage && std::floor(top / pageHeight) != std::floor((bottom - 1) / pageHeight);
 }
 
-// The toolkit breaks pages between any two lines. A paragraph that would be torn, with the line that announces
-// it, begins the next page instead; what comes after moves along.
+// The toolkit breaks pages between any two lines. A paragraph that would be torn, with the line that
+// announces it, begins the next page instead; what comes after moves along.
 void keepParagraphsWhole(QTextDocument& document) {
     const double pageHeight = document.pageSize().height();
     for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {

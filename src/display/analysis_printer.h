@@ -8,8 +8,8 @@ class QPrinter;
 class QTextEdit;
 class QWidget;
 
-// Asks for a printer and prints the selection, if there is one, or else the whole text. A cancel and every error
-// are passed over in silence.
+// Asks for a printer and prints the selection, if there is one, or else the whole text. A cancel and every
+// error are passed over in silence.
 void printAnalysis(const QTextEdit& text, QWidget* parent);
 
 // Prints the text with decent margins; a paragraph that fits on a page is not torn, and a line that announces

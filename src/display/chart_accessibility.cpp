@@ -37,8 +37,9 @@ QStringList starsIn(const ChartCell& cell) {
     QStringList stars;
     if (cell.lblEarthlyBranches.text().starts_with("Zi Wei")) stars += QStringLiteral("Zi Wei");
     for (const CaptionField& caption : captionFields) {
-        const bool isStar = caption.field != &ChartCell::lblPalace && caption.field != &ChartCell::lblPalaceSteam &&
-                            caption.field != &ChartCell::lblEarthlyBranches && caption.field != &ChartCell::lblBody;
+        const bool isStar =
+            caption.field != &ChartCell::lblPalace && caption.field != &ChartCell::lblPalaceSteam &&
+            caption.field != &ChartCell::lblEarthlyBranches && caption.field != &ChartCell::lblBody;
         if (isStar && !(cell.*caption.field).empty()) stars += latin((cell.*caption.field).text());
     }
     for (const FlagField& flag : flagFields) {
@@ -53,11 +54,13 @@ QString spokenCell(const ChartModel& chart, CellIndex index) {
     const ChartCell& cell = chart.cell(index);
     const QString name = latin(cell.lblPalace.text());
     const QString palace = name.endsWith(QStringLiteral("Palace")) ? name : name + QStringLiteral(" palace");
-    QString sentence = QStringLiteral("%1, %2, stem %3")
-                           .arg(palace, latin(branchNames[index.index()].text()), lastLine(cell.lblPalaceSteam));
+    QString sentence =
+        QStringLiteral("%1, %2, stem %3")
+            .arg(palace, latin(branchNames[index.index()].text()), lastLine(cell.lblPalaceSteam));
     if (index == chart.lifePalace) sentence += QStringLiteral(", element ") + latin(chart.lblElement.text());
     const QStringList stars = starsIn(cell);
-    sentence += stars.isEmpty() ? QStringLiteral(": no stars") : QStringLiteral(": ") + stars.join(QStringLiteral(", "));
+    sentence += stars.isEmpty() ? QStringLiteral(": no stars")
+                                : QStringLiteral(": ") + stars.join(QStringLiteral(", "));
     if (!cell.lblBody.empty()) sentence += QStringLiteral("; Body Palace");
     return sentence;
 }

@@ -2,9 +2,7 @@
 
 #include <QPainter>
 
-ElidedLabel::ElidedLabel(QWidget* parent) : QLabel(parent) {
-    setTextFormat(Qt::PlainText);
-}
+ElidedLabel::ElidedLabel(QWidget* parent) : QLabel(parent) { setTextFormat(Qt::PlainText); }
 
 void ElidedLabel::paintEvent(QPaintEvent*) {
     // No more is measured than could ever be seen.

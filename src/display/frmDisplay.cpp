@@ -119,7 +119,8 @@ void frmDisplay::createMenus() {
     QMenu* mnuFile = menus_->addMenu(tr("&File"));
     mnuFile->setObjectName(QStringLiteral("mnuFile"));
     const auto addEntry = [this, mnuFile](const char* name, const char* words, void (frmDisplay::*wanted)()) {
-        mnuFile->addAction(QString::fromLatin1(words), this, wanted)->setObjectName(QString::fromLatin1(name));
+        mnuFile->addAction(QString::fromLatin1(words), this, wanted)
+            ->setObjectName(QString::fromLatin1(name));
     };
     addEntry("mnuShowAll", "Show All", &frmDisplay::showAllRequested);
     addEntry("mnuSavejpg", "Save as JPG", &frmDisplay::savePictureRequested);
@@ -202,8 +203,12 @@ void frmDisplay::showChart(const ChartModel& chart, const BirthEntry& entry) {
 void frmDisplay::fillHeader(const ChartModel& chart, const BirthEntry& entry) {
     centreLabel("lblName")->setText(QString::fromStdU16String(entry.name));
     centreLabel("lblDateOfBirth")
-        ->setText(QStringLiteral("%1/%2/%3").arg(latin(entry.date.monthText())).arg(entry.date.day()).arg(entry.date.year()));
-    centreLabel("lblTimeOfBirth")->setText(QStringLiteral("%1:%2").arg(entry.hourPosition).arg(entry.minutePosition));
+        ->setText(QStringLiteral("%1/%2/%3")
+                      .arg(latin(entry.date.monthText()))
+                      .arg(entry.date.day())
+                      .arg(entry.date.year()));
+    centreLabel("lblTimeOfBirth")
+        ->setText(QStringLiteral("%1:%2").arg(entry.hourPosition).arg(entry.minutePosition));
     centreLabel("lblElement")->setText(latin(chart.lblElement.text()));
     centreLabel("lblYear")->setText(QString::number(entry.date.year()));
     centreLabel("lblMonth")->setText(QString::number(chart.lunarMonth));
@@ -281,7 +286,8 @@ void frmDisplay::placeCells() {
         const QSize least{scale_.pixels(table[i].minimumWidth), 0};
         const QRect place{QPoint{scale_.pixels(table[i].left), scale_.pixels(table[i].top)},
                           textSize(font, table[i].longestText).expandedTo(least)};
-        const bool inherits = table[i].style == CellStyle::minor || table[i].style == CellStyle::transformation;
+        const bool inherits =
+            table[i].style == CellStyle::minor || table[i].style == CellStyle::transformation;
         for (const CellLabels& labels : labels_) {
             if (!inherits) labels[i]->setFont(font);
             labels[i]->setGeometry(place);
@@ -295,8 +301,8 @@ void frmDisplay::placeCentre() {
     const auto table = centreLabels();
     for (std::size_t i = 0; i < table.size(); ++i) {
         centre_[i]->setFont(scaledFont(scale_, styleOf(table[i].style)));
-        centre_[i]->setGeometry(scale_.pixels(table[i].left), scale_.pixels(table[i].top), scale_.pixels(table[i].width),
-                                scale_.pixels(table[i].height));
+        centre_[i]->setGeometry(scale_.pixels(table[i].left), scale_.pixels(table[i].top),
+                                scale_.pixels(table[i].width), scale_.pixels(table[i].height));
     }
 }
 
@@ -319,7 +325,8 @@ bool frmDisplay::eventFilter(QObject* watched, QEvent* event) {
 
 // The chart is one stop of the Tab key, at the cell that had the focus last; arrow keys move within it.
 void frmDisplay::makeTabStop() {
-    for (LblCover* cover : lblCover) cover->setFocusPolicy(cover == sender() ? Qt::StrongFocus : Qt::ClickFocus);
+    for (LblCover* cover : lblCover)
+        cover->setFocusPolicy(cover == sender() ? Qt::StrongFocus : Qt::ClickFocus);
 }
 
 void frmDisplay::moveFocus(CellIndex from, int columnStep, int rowStep) {

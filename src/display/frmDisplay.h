@@ -24,8 +24,8 @@ class frmDisplay : public QWidget {
     // Fills cells and header from the chart and from the entry as the lists now stand.
     void showChart(const ChartModel& chart, const BirthEntry& entry);
 
-    // The window at the largest scale whose chart goes into the room, or scrolling where none does. Returns the
-    // window's size then, at most as large as the room.
+    // The window at the largest scale whose chart goes into the room, or scrolling where none does. Returns
+    // the window's size then, at most as large as the room.
     QSize fitInto(const QSize& room);
 
     // Opens the menu whose access key this is, if there is one.
@@ -68,9 +68,9 @@ class frmDisplay : public QWidget {
 
     QMenuBar* menus_;
     QScrollArea* scroll_;
-    QWidget* gfg;      // the ground on which all lies
-    QWidget* Frame1;   // the square
-    QWidget* Frame2;   // the centre block
+    QWidget* gfg;     // the ground on which all lies
+    QWidget* Frame1;  // the square
+    QWidget* Frame2;  // the centre block
     QLabel* lblCaption;
     std::array<CellSquare*, cellCount> Square{};
     std::array<LblCover*, cellCount> lblCover{};

@@ -92,7 +92,8 @@ CellIndex neighbour(CellIndex cell, int columnStep, int rowStep) {
 
 ChartScale ChartScale::largestFor(const QSize& room, double devicePixelRatio) {
     // Ten pixels of the screen, and eight of the desktop's own, are the least for these names.
-    const int least = std::max(smallestScale.minorPixels(), static_cast<int>(std::ceil(10.0 / devicePixelRatio)));
+    const int least =
+        std::max(smallestScale.minorPixels(), static_cast<int>(std::ceil(10.0 / devicePixelRatio)));
     int pixels = least;
     while (pixels < largestMinorPixels) {
         const QSize next = ChartScale{pixels + 1}.chartSize();
@@ -116,7 +117,8 @@ QRect ChartScale::cellFrame(CellIndex cell) const {
 }
 
 QRect ChartScale::centreFrame() const {
-    return {QPoint{pixels(cellWidth), pixels(cellHeight)}, QPoint{pixels(3 * cellWidth), pixels(3 * cellHeight)}};
+    return {QPoint{pixels(cellWidth), pixels(cellHeight)},
+            QPoint{pixels(3 * cellWidth), pixels(3 * cellHeight)}};
 }
 
 QSize ChartScale::squareSize() const { return {pixels(4 * cellWidth) + 1, pixels(4 * cellHeight) + 1}; }

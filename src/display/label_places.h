@@ -13,7 +13,8 @@
 
 inline constexpr int cellWidth = 3600;
 inline constexpr int cellHeight = 2160;
-inline constexpr int frameOverlap = 15;  // frames reach one pixel into their neighbours, so that borders coincide
+inline constexpr int frameOverlap =
+    15;  // frames reach one pixel into their neighbours, so that borders coincide
 inline constexpr int hintHeight = 300;
 
 // How a label is written; the sizes are in pixels at scale 1.
@@ -90,10 +91,18 @@ struct GridPlace {
 };
 constexpr GridPlace gridPlace(CellIndex cell) {
     constexpr std::array<GridPlace, cellCount> places{{
-        {0, 3}, {0, 2}, {0, 1}, {0, 0},  // Yin, Mao, Chen, Si: up the left side
-        {1, 0}, {2, 0}, {3, 0},          // Wu, Wei, Shen: along the top
-        {3, 1}, {3, 2}, {3, 3},          // You, Xu, Hai: down the right side
-        {2, 3}, {1, 3},                  // Zi, Chou: back along the bottom
+        {0, 3},
+        {0, 2},
+        {0, 1},
+        {0, 0},  // Yin, Mao, Chen, Si: up the left side
+        {1, 0},
+        {2, 0},
+        {3, 0},  // Wu, Wei, Shen: along the top
+        {3, 1},
+        {3, 2},
+        {3, 3},  // You, Xu, Hai: down the right side
+        {2, 3},
+        {1, 3},  // Zi, Chou: back along the bottom
     }};
     return places[cell.index()];
 }
@@ -102,14 +111,14 @@ constexpr GridPlace gridPlace(CellIndex cell) {
 // lies between; the same cell at the square's edge. Steps are -1, 0 or 1.
 CellIndex neighbour(CellIndex cell, int columnStep, int rowStep);
 
-// The scale at which the chart is drawn, told by the size in pixels of the minor stars' names: whole pixels, so
-// that text stays crisp at every step.
+// The scale at which the chart is drawn, told by the size in pixels of the minor stars' names: whole pixels,
+// so that text stays crisp at every step.
 class ChartScale {
   public:
     explicit constexpr ChartScale(int minorPixels) : minorPixels_(minorPixels) {}
 
-    // The largest scale at which a chart with its hint line goes into the room; never one at which the text is
-    // too small to be read on a screen of this pixel ratio.
+    // The largest scale at which a chart with its hint line goes into the room; never one at which the text
+    // is too small to be read on a screen of this pixel ratio.
     static ChartScale largestFor(const QSize& room, double devicePixelRatio);
 
     constexpr int minorPixels() const { return minorPixels_; }

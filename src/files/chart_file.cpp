@@ -45,8 +45,8 @@ std::array<std::string, lineCount> readLines(std::istream& file) {
 
 std::string chartFileBytes(const ChartInput& input) {
     std::string bytes;
-    for (const std::string& line :
-         {latin1(input.name), std::to_string(input.day), std::string{input.month}, std::to_string(input.year)}) {
+    for (const std::string& line : {latin1(input.name), std::to_string(input.day), std::string{input.month},
+                                    std::to_string(input.year)}) {
         bytes += EncodeLine(line) + "\r\n";
     }
     return bytes;

@@ -1,5 +1,5 @@
-// The chart file: four lines of shifted text in Latin-1 that hold the birth data, from which the chart is cast
-// again. Hour and minute are not kept.
+// The chart file: four lines of shifted text in Latin-1 that hold the birth data, from which the chart is
+// cast again. Hour and minute are not kept.
 #pragma once
 
 #include <array>
@@ -32,6 +32,6 @@ struct ChartFileValues {
     std::string year;
 };
 
-// Reads a chart file. Lines end in CR LF, LF or CR. A line longer than longestLine is cut there and is the last
-// one read. A file that can't be read, or is no regular file, yields empty values.
+// Reads a chart file. Lines end in CR LF, LF or CR. A line longer than longestLine is cut there and is the
+// last one read. A file that can't be read, or is no regular file, yields empty values.
 ChartFileValues readChartFile(const std::filesystem::path& path);

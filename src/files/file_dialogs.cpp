@@ -8,8 +8,8 @@
 
 namespace {
 
-// What a file dialog is set to. The filter has the form "description|pattern". The filter index counts from 1;
-// one that points past the last filter means the first, as with any list.
+// What a file dialog is set to. The filter has the form "description|pattern". The filter index counts from
+// 1; one that points past the last filter means the first, as with any list.
 struct DialogSetting {
     const char* title;
     const char* filter;

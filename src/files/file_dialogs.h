@@ -5,6 +5,8 @@
 
 class QWidget;
 
-QString askForChartFile(QWidget* parent);    // one that exists
-QString askWhereToSaveChart(QWidget* parent);  // asks before overwriting; the folder exists and can be written
-QString askForPictureName(QWidget* parent);  // of any name: the naming rule sees to it that nothing is overwritten
+QString askForChartFile(QWidget* parent);  // one that exists
+QString askWhereToSaveChart(
+    QWidget* parent);  // asks before overwriting; the folder exists and can be written
+QString askForPictureName(
+    QWidget* parent);  // of any name: the naming rule sees to it that nothing is overwritten

@@ -1,5 +1,5 @@
-// The shift that every line of a chart file passes through, so that the file is not plain text. An encoded line
-// holds no code below 85, and so no line end either.
+// The shift that every line of a chart file passes through, so that the file is not plain text. An encoded
+// line holds no code below 85, and so no line end either.
 #pragma once
 
 #include <string>

@@ -10,8 +10,9 @@
 
 namespace {
 
-// In the watcher, which may only do what is safe after a fork: wait until the other end of the pipe is closed.
-// A byte before that says that the program has tidied up itself; the end without one, that it is gone.
+// In the watcher, which may only do what is safe after a fork: wait until the other end of the pipe is
+// closed. A byte before that says that the program has tidied up itself; the end without one, that it is
+// gone.
 [[noreturn]] void watch(int pipe, const char* path) {
     ::setsid();
     sigset_t all{};

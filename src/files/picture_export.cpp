@@ -42,7 +42,8 @@ PictureName nameFor(const std::string& chosenPath) {
 
 void tellTooManyCopies(const std::string& name, QWidget* parent) {
     const QString fileName = QFile::decodeName(QByteArray::fromStdString(name));
-    showMessage(parent, QMessageBox::Critical, QStringLiteral("There are too many Copies of this file  ") + fileName,
+    showMessage(parent, QMessageBox::Critical,
+                QStringLiteral("There are too many Copies of this file  ") + fileName,
                 QStringLiteral(" UNABLE  TO  CREATE  NEW  FILE") + fileName);
 }
 
@@ -75,7 +76,8 @@ void exportPicture(const QPixmap& picture, const QString& converter, QWidget* pa
     if (!chosen.isEmpty()) savePictureAs(picture, chosen, converter, parent);
 }
 
-void savePictureAs(const QPixmap& picture, const QString& chosenPath, const QString& converter, QWidget* parent) {
+void savePictureAs(const QPixmap& picture, const QString& chosenPath, const QString& converter,
+                   QWidget* parent) {
     const PictureName name = nameFor(QFile::encodeName(chosenPath).toStdString());
     if (name.tooManyCopies) tellTooManyCopies(name.name, parent);
     const std::string bitmapPath = freeBitmapPath(name.path());

@@ -11,4 +11,5 @@ void exportPicture(const QPixmap& picture, const QString& converter, QWidget* pa
 
 // Saves the picture under the chosen path, or under the first free name that the naming rule makes of it.
 // A step that fails ends the save in silence, with neither a temporary file nor half a picture left.
-void savePictureAs(const QPixmap& picture, const QString& chosenPath, const QString& converter, QWidget* parent);
+void savePictureAs(const QPixmap& picture, const QString& chosenPath, const QString& converter,
+                   QWidget* parent);

@@ -23,15 +23,16 @@ std::string tidyFolder(std::string_view folder, const PictureSurroundings& aroun
 
 std::string clockName(const ClockTime& time) {
     std::array<char, 96> digits{};
-    std::snprintf(digits.data(), digits.size(), "%04d%02d%02d%02d%02d%02d%03d.jpg", time.year, time.month, time.day,
-                  time.hour, time.minute, time.second, time.millisecond);
+    std::snprintf(digits.data(), digits.size(), "%04d%02d%02d%02d%02d%02d%03d.jpg", time.year, time.month,
+                  time.day, time.hour, time.minute, time.second, time.millisecond);
     return digits.data();
 }
 
 bool sameButForCase(std::string_view left, std::string_view right) {
     if (left.size() != right.size()) return false;
     for (std::size_t i = 0; i < left.size(); ++i) {
-        if (std::tolower(static_cast<unsigned char>(left[i])) != std::tolower(static_cast<unsigned char>(right[i]))) {
+        if (std::tolower(static_cast<unsigned char>(left[i])) !=
+            std::tolower(static_cast<unsigned char>(right[i]))) {
             return false;
         }
     }
@@ -74,7 +75,8 @@ std::string counted(std::string_view name, int counter) {
 
 }  // namespace
 
-PictureName uniquePictureName(std::string_view folder, std::string_view name, const PictureSurroundings& around) {
+PictureName uniquePictureName(std::string_view folder, std::string_view name,
+                              const PictureSurroundings& around) {
     const std::string tidy = tidyFolder(folder, around);
     const std::string wanted = pictureNameFor(name, around);
     if (!around.exists(tidy + wanted)) return {tidy, wanted, false};
@@ -88,5 +90,6 @@ PictureName uniquePictureName(std::string_view folder, std::string_view name, co
 std::string bitmapPathFor(const std::string& picturePath, char separator) {
     const auto slash = picturePath.rfind(separator);
     const auto nameStart = slash == std::string::npos ? 0 : slash + 1;
-    return picturePath.substr(0, nameStart) + withEndingReplaced(picturePath.substr(nameStart), ".jpg", ".bmp");
+    return picturePath.substr(0, nameStart) +
+           withEndingReplaced(picturePath.substr(nameStart), ".jpg", ".bmp");
 }

@@ -91,7 +91,8 @@ bool WholeFile::commit() {
     sound_ = false;
     struct stat previous {};
     const bool replaces = ::stat(path_.c_str(), &previous) == 0;
-    if (replaces && (!S_ISREG(previous.st_mode) || ::fchmod(descriptor_, previous.st_mode & 07777) != 0)) return false;
+    if (replaces && (!S_ISREG(previous.st_mode) || ::fchmod(descriptor_, previous.st_mode & 07777) != 0))
+        return false;
     if (!replaces && temporary_.empty()) {
         const std::string self = "/proc/self/fd/" + std::to_string(descriptor_);
         if (::linkat(AT_FDCWD, self.c_str(), AT_FDCWD, path_.c_str(), AT_SYMLINK_FOLLOW) == 0) return true;

@@ -17,7 +17,8 @@ class WholeFile {
     // Appends bytes. Returns false where that failed, now or earlier; nothing can be committed then.
     bool write(std::string_view bytes);
 
-    // Puts the file in place under the path. Returns whether it is there; if not, what was there before still is.
+    // Puts the file in place under the path. Returns whether it is there; if not, what was there before still
+    // is.
     bool commit();
 
   private:

@@ -10,8 +10,8 @@ class DetailsFrame : public QGroupBox {
     using QGroupBox::QGroupBox;
 
   protected:
-    // The toolkit's own frame swallows Enter on desktops where Enter presses buttons, as if it could be checked;
-    // Enter in a field must reach the form's default button everywhere.
+    // The toolkit's own frame swallows Enter on desktops where Enter presses buttons, as if it could be
+    // checked; Enter in a field must reach the form's default button everywhere.
     bool event(QEvent* event) override {
         const bool key = event->type() == QEvent::KeyPress || event->type() == QEvent::KeyRelease;
         return key ? QWidget::event(event) : QGroupBox::event(event);

@@ -147,8 +147,10 @@ QWidget* frmMain::createDetails() {
 }
 
 QWidget* frmMain::createButtons() {
-    cmdGenerateChart = named(new QPushButton{tr("Get My &Palace Lantern Interpretation")}, "cmdGenerateChart");
-    cmdOpen = named(new QPushButton{tr("Click Here To Open Previously Saved Palace Lantern Interpretation")}, "cmdOpen");
+    cmdGenerateChart =
+        named(new QPushButton{tr("Get My &Palace Lantern Interpretation")}, "cmdGenerateChart");
+    cmdOpen = named(new QPushButton{tr("Click Here To Open Previously Saved Palace Lantern Interpretation")},
+                    "cmdOpen");
     cmExit = named(new QPushButton{tr("&Exit")}, "cmExit");
     cmdGenerateChart->setDefault(true);
     QFont strong = cmdGenerateChart->font();

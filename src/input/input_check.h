@@ -14,6 +14,6 @@ struct InputFailure {
     InputField field;
 };
 
-// The first failure, or nothing where the entry will do: the name is not empty (blanks will do), and the month
-// has the day. Leap years are those divisible by 4, which is exact for every year of the list.
+// The first failure, or nothing where the entry will do: the name is not empty (blanks will do), and the
+// month has the day. Leap years are those divisible by 4, which is exact for every year of the list.
 std::optional<InputFailure> checkBirthEntry(const BirthEntry& entry);

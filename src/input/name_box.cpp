@@ -15,7 +15,8 @@
 namespace {
 
 bool hasText(const QKeyEvent& event) {
-    return !event.text().isEmpty() && event.text().front() >= QLatin1Char(' ') && event.text().front() != QChar{0x7F};
+    return !event.text().isEmpty() && event.text().front() >= QLatin1Char(' ') &&
+           event.text().front() != QChar{0x7F};
 }
 
 }  // namespace
@@ -23,8 +24,8 @@ bool hasText(const QKeyEvent& event) {
 NameBox::NameBox(QWidget* parent) : QLineEdit(parent) {}
 
 QString NameBox::filtered(const QString& text, bool& rejectedAny) const {
-    const FilteredName name = filterName({reinterpret_cast<const char16_t*>(text.utf16()),
-                                          static_cast<std::size_t>(text.size())});
+    const FilteredName name =
+        filterName({reinterpret_cast<const char16_t*>(text.utf16()), static_cast<std::size_t>(text.size())});
     rejectedAny = name.rejectedAny;
     return QString::fromStdU16String(name.accepted);
 }

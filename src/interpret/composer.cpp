@@ -47,7 +47,8 @@ std::size_t palaceIn(const ChartModel& chart, CellIndex cell) {
 void appendPalace(Runs& runs, const ChartModel& chart, CellIndex cell) {
     const std::size_t palace = palaceIn(chart, cell);
     const bool known = palace < palaceTexts.size();
-    if (known) append(runs, palaceTexts[palace].heading, paragraph(palaceTexts[palace].description, palaceBody));
+    if (known)
+        append(runs, palaceTexts[palace].heading, paragraph(palaceTexts[palace].description, palaceBody));
     runs.push_back(paragraph(details, detailsLine));
     if (chart.bodyPalace == cell) append(runs, bodyPalaceHeading, paragraph(bodyPalaceText, palaceBody));
     for (std::size_t star = 0; known && star < starTexts.size(); ++star) {

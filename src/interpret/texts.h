@@ -1,5 +1,5 @@
-// The interpretation texts: what the palaces stand for, what the stars mean, and what a star means in a palace.
-// All are fixed English content; slips of spelling and trailing blanks in them are part of it.
+// The interpretation texts: what the palaces stand for, what the stars mean, and what a star means in a
+// palace. All are fixed English content; slips of spelling and trailing blanks in them are part of it.
 #pragma once
 
 #include <array>

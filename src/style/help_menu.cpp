@@ -3,7 +3,8 @@
 HelpMenu::HelpMenu(QWidget* parent) : QMenu(tr("&Help"), parent) {
     setObjectName(QStringLiteral("mnuHelp"));
     const auto addPage = [this](const char* name, const char* caption, WebPage page) {
-        connect(addEntry(name, caption), &QAction::triggered, this, [this, page] { emit pageRequested(page); });
+        connect(addEntry(name, caption), &QAction::triggered, this,
+                [this, page] { emit pageRequested(page); });
     };
     addPage("mnuOnline", "&Online Help", WebPage::onlineHelp);
     addPage("mnuVisit", "&Visit Us Online", WebPage::home);

@@ -4,6 +4,6 @@
 #include <QMessageBox>
 #include <QString>
 
-// Shows the text as it stands, never as markup, and returns when it is closed (OK, Enter or Escape). The title
-// is the product's name unless another is given.
+// Shows the text as it stands, never as markup, and returns when it is closed (OK, Enter or Escape). The
+// title is the product's name unless another is given.
 void showMessage(QWidget* parent, QMessageBox::Icon icon, const QString& text, const QString& title = {});
