@@ -21,6 +21,7 @@ frmAbout::frmAbout(QWidget* parent) : QDialog(parent) {
     setObjectName(QStringLiteral("frmAbout"));
     setWindowTitle(tr("About Palace Lantern"));
     auto* mark = new QLabel;
+    mark->setAccessibleName(tr("Lantern"));
     mark->setPixmap(look::productIcon().pixmap(QSize{64, 64}, devicePixelRatioF()));
     QLabel* name = plainLabel(look::productName(), "lblProduct");
     QFont title = name->font();

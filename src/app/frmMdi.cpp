@@ -32,9 +32,11 @@ frmMdi::frmMdi() {
     area_ = new QMdiArea;
     area_->setBackground(palette().color(QPalette::Window).darker(112));
     area_->setFocusPolicy(Qt::NoFocus);
-    auto* rows = new QVBoxLayout{this};
+    auto* content = new QWidget;
+    auto* rows = new QVBoxLayout{content};
     rows->setContentsMargins(0, 0, 0, 0);
     rows->setSpacing(0);
+    setCentralWidget(content);
     rows->addWidget(stripView_);
     rows->addWidget(area_);
     MDIForm_Load();
@@ -117,6 +119,7 @@ void frmMdi::hostChart(QWidget* chart, std::function<QSize(QSize)> fit) {
     area_->installEventFilter(this);
     chartWindow_->show();
     layout()->activate();
+    centralWidget()->layout()->activate();
     placeChart();
     // The chart window takes the focus when it is shown; it belongs to the strip until a person moves it.
     QMetaObject::invokeMethod(cmdShowAll, qOverload<>(&QWidget::setFocus), Qt::QueuedConnection);
@@ -143,7 +146,7 @@ void frmMdi::placeChart() {
 }
 
 void frmMdi::resizeEvent(QResizeEvent* event) {
-    QWidget::resizeEvent(event);
+    QMainWindow::resizeEvent(event);
     placeStrip();
 }
 
@@ -155,7 +158,7 @@ bool frmMdi::eventFilter(QObject* watched, QEvent* event) {
         return true;
     }
     const bool resized = watched == area_ && event->type() == QEvent::Resize;
-    const bool handled = QWidget::eventFilter(watched, event);
+    const bool handled = QMainWindow::eventFilter(watched, event);
     if (resized) QMetaObject::invokeMethod(this, &frmMdi::placeChart, Qt::QueuedConnection);
     return handled;
 }
@@ -163,7 +166,7 @@ bool frmMdi::eventFilter(QObject* watched, QEvent* event) {
 // The chart window's menus hear their access keys only while the focus is in that window.
 void frmMdi::keyPressEvent(QKeyEvent* event) {
     if (event->modifiers() == Qt::AltModifier) emit menuKeyPressed(event->key());
-    QWidget::keyPressEvent(event);
+    QMainWindow::keyPressEvent(event);
 }
 
 void frmMdi::closeEvent(QCloseEvent* event) {

@@ -1,7 +1,7 @@
 // The frame that hosts the chart window, with a strip of four buttons along its top.
 #pragma once
 
-#include <QWidget>
+#include <QMainWindow>
 #include <functional>
 
 class LinkLabel;
@@ -10,7 +10,7 @@ class QMdiSubWindow;
 class QPushButton;
 class QScrollArea;
 
-class frmMdi : public QWidget {
+class frmMdi : public QMainWindow {
     Q_OBJECT
   public:
     frmMdi();

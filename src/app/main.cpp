@@ -5,6 +5,9 @@
 #include "app/application.h"
 #include "app/required_file.h"
 #include "app/single_instance.h"
+#include "display/chart_accessibility.h"
+#include "input/list_accessibility.h"
+#include "style/link_label.h"
 #include "style/look.h"
 #include "style/message.h"
 
@@ -15,6 +18,10 @@ int main(int argc, char* argv[]) {
     QApplication::setQuitOnLastWindowClosed(false);
     QApplication::setFont(look::textFont(QApplication::font()));
     QApplication::setWindowIcon(look::productIcon());
+
+    installListAccessibility();
+    installChartAccessibility();
+    installLinkAccessibility();
 
     const SingleInstance instance;
     if (instance.anotherIsRunning()) {

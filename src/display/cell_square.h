@@ -1,9 +1,15 @@
-// The frame of a palace cell, which holds the cell's labels.
+// The square of the chart, and the frame of a palace cell in it, which holds the cell's labels.
 #pragma once
 
 #include <QWidget>
 
 #include "chart/cell_index.h"
+
+class ChartSquare : public QWidget {
+    Q_OBJECT
+  public:
+    using QWidget::QWidget;
+};
 
 class CellSquare : public QWidget {
     Q_OBJECT

@@ -6,23 +6,31 @@
 
 namespace {
 
-// A frame that keeps its labels to itself.
-class QuietFrame : public QAccessibleWidget {
+// The square as a screen reader walks it: the centre block and the covers, which speak for their cells, but
+// not the frames with the bare labels.
+class SquareInterface : public QAccessibleWidget {
   public:
-    explicit QuietFrame(QWidget* frame) : QAccessibleWidget(frame, QAccessible::Graphic) {}
-    int childCount() const override { return 0; }
-    QAccessibleInterface* child(int) const override { return nullptr; }
-    int indexOfChild(const QAccessibleInterface*) const override { return -1; }
-    QAccessible::State state() const override {
-        QAccessible::State state = QAccessibleWidget::state();
-        state.invisible = true;
-        return state;
+    explicit SquareInterface(QWidget* square) : QAccessibleWidget(square, QAccessible::Grouping) {}
+
+    int childCount() const override { return static_cast<int>(spoken().size()); }
+    QAccessibleInterface* child(int index) const override {
+        return QAccessible::queryAccessibleInterface(spoken().value(index));
+    }
+    int indexOfChild(const QAccessibleInterface* child) const override {
+        return static_cast<int>(spoken().indexOf(child->object()));
+    }
+
+  private:
+    QObjectList spoken() const {
+        QObjectList children = widget()->children();
+        children.removeIf([](QObject* child) { return qobject_cast<CellSquare*>(child) != nullptr; });
+        return children;
     }
 };
 
 QAccessibleInterface* createInterface(const QString&, QObject* object) {
-    auto* square = qobject_cast<CellSquare*>(object);
-    return square == nullptr ? nullptr : new QuietFrame{square};
+    auto* square = qobject_cast<ChartSquare*>(object);
+    return square == nullptr ? nullptr : new SquareInterface{square};
 }
 
 QString latin(std::string_view text) {
@@ -65,10 +73,4 @@ QString spokenCell(const ChartModel& chart, CellIndex index) {
     return sentence;
 }
 
-void installChartAccessibility() {
-    static const bool installed = [] {
-        QAccessible::installFactory(createInterface);
-        return true;
-    }();
-    Q_UNUSED(installed)
-}
+void installChartAccessibility() { QAccessible::installFactory(createInterface); }

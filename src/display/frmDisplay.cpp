@@ -78,7 +78,6 @@ QSize textSize(const QFont& font, std::string_view text) {
 frmDisplay::frmDisplay() {
     setObjectName(QStringLiteral("frmDisplay"));
     setWindowTitle(tr("Palace Lantern Chart"));
-    installChartAccessibility();
     gfg = new QWidget;
     gfg->setObjectName(QStringLiteral("gfg"));
     QPalette papers;
@@ -86,7 +85,8 @@ frmDisplay::frmDisplay() {
     papers.setColor(QPalette::WindowText, look::ink);
     gfg->setPalette(papers);
     gfg->setAutoFillBackground(true);
-    Frame1 = new QWidget{gfg};
+    Frame1 = new ChartSquare{gfg};
+    Frame1->setAccessibleName(tr("Chart"));
     Frame1->setObjectName(QStringLiteral("Frame1"));
     createCells();
     createCentre();
@@ -179,12 +179,14 @@ void frmDisplay::createCentre() {
         label->setTextFormat(Qt::PlainText);
         label->setText(latin(place.prompt));
         label->setAlignment(place.centred ? Qt::AlignCenter : Qt::AlignLeft | Qt::AlignVCenter);
-        if (place.name == "lblCentreRule") label->setFrameShape(QFrame::HLine);
         colour(label, place.style == CentreStyle::prompt    ? look::quiet
                       : place.style == CentreStyle::heading ? look::brown
                                                             : look::blue);
         centre_.push_back(label);
     }
+    centreRule_ = new QFrame{Frame2};
+    centreRule_->setFrameShape(QFrame::HLine);
+    colour(centreRule_, look::brown);
 }
 
 QLabel* frmDisplay::centreLabel(std::string_view name) const {
@@ -298,6 +300,8 @@ void frmDisplay::placeCells() {
 
 void frmDisplay::placeCentre() {
     Frame2->setGeometry(scale_.centreFrame().adjusted(1, 1, -1, -1));
+    centreRule_->setGeometry(scale_.pixels(centreRule.left), scale_.pixels(centreRule.top),
+                             scale_.pixels(centreRule.width), std::max(1, scale_.pixels(centreRule.height)));
     const auto table = centreLabels();
     for (std::size_t i = 0; i < table.size(); ++i) {
         centre_[i]->setFont(scaledFont(scale_, styleOf(table[i].style)));

@@ -77,5 +77,6 @@ class frmDisplay : public QWidget {
     std::array<CellLabels, cellCount> labels_{};
     std::array<bool, cellCount> holdsZiWei_{};
     std::vector<QLabel*> centre_;
+    QFrame* centreRule_ = nullptr;
     ChartScale scale_{smallestScale};
 };

@@ -56,7 +56,7 @@ constexpr std::array<CellLabel, 35> labels{{
 }};
 
 // The centre block reads as a title page: who and when, then what the chart is counted from.
-constexpr std::array<CentreLabel, 14> centre{{
+constexpr std::array<CentreLabel, 13> centre{{
     {"lblName",                 "",                          300,  420, 6600, 450, CentreStyle::name,    true},
     {"lblDateOfBirth",          "",                          300,  960, 6600, 330, CentreStyle::heading, true},
     {"lblTimeOfBirth",          "",                          300, 1290, 6600, 330, CentreStyle::heading, true},
@@ -70,7 +70,6 @@ constexpr std::array<CentreLabel, 14> centre{{
     {"lblLifePalaceat",         "",                         4350, 3000, 2400, 270, CentreStyle::value,   false},
     {"lblBodyPalaceatPrompt",   "Your Body Palace at",       900, 3330, 3300, 270, CentreStyle::prompt,  false},
     {"lblBodyPalaceat",         "",                         4350, 3330, 2400, 270, CentreStyle::value,   false},
-    {"lblCentreRule",           "",                         1800, 1800, 3600,  15, CentreStyle::prompt,  false},
 }};
 // clang-format on
 

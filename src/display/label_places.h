@@ -83,6 +83,12 @@ struct CentreLabel {
 
 std::span<const CentreLabel> centreLabels();
 
+// The line between who and when and the rest.
+struct CentreRule {
+    int left, top, width, height;
+};
+inline constexpr CentreRule centreRule{1800, 1800, 3600, 15};
+
 // Column and row of a cell on the 4 x 4 square, from the top left.
 struct GridPlace {
     int column;

@@ -1,5 +1,6 @@
 #include "style/link_label.h"
 
+#include <QAccessibleWidget>
 #include <QEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -7,6 +8,27 @@
 #include <QStylePainter>
 
 #include "style/look.h"
+
+namespace {
+
+class LinkInterface : public QAccessibleWidget {
+  public:
+    explicit LinkInterface(LinkLabel* link) : QAccessibleWidget(link, QAccessible::Link, link->text()) {}
+    QStringList actionNames() const override { return {pressAction(), setFocusAction()}; }
+    void doAction(const QString& action) override {
+        auto* link = static_cast<LinkLabel*>(widget());
+        action == pressAction() ? emit link->clicked() : link->setFocus();
+    }
+};
+
+QAccessibleInterface* createInterface(const QString&, QObject* object) {
+    auto* link = qobject_cast<LinkLabel*>(object);
+    return link == nullptr ? nullptr : new LinkInterface{link};
+}
+
+}  // namespace
+
+void installLinkAccessibility() { QAccessible::installFactory(createInterface); }
 
 LinkLabel::LinkLabel(const QString& text, QWidget* parent) : QLabel(text, parent) {
     setTextFormat(Qt::PlainText);

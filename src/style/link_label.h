@@ -20,3 +20,6 @@ class LinkLabel : public QLabel {
   private:
     void takeLinkColour();
 };
+
+// Lets a screen reader know such labels as links that can be pressed.
+void installLinkAccessibility();
