@@ -273,7 +273,10 @@ void frmMain::reject() {}
 void frmMain::fitToScreen() {
     const QRect available = screen()->availableGeometry();
     const QSize room = available.size() - QSize{16, 40};
-    QSize size = scroll_->widget()->sizeHint() + QSize{0, layout()->menuBar()->sizeHint().height()};
+    // A little more than needed: at fractional scales, windows are rounded to whole dots of the screen.
+    constexpr QSize rounding{2, 2};
+    QSize size =
+        scroll_->widget()->sizeHint() + QSize{0, layout()->menuBar()->sizeHint().height()} + rounding;
     if (size.height() > room.height()) size.rwidth() += scroll_->verticalScrollBar()->sizeHint().width();
     size = size.boundedTo(room);
     resize(size);
