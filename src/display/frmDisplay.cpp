@@ -65,12 +65,11 @@ QFont scaledFont(const ChartScale& scale, LabelStyle style) {
 
 // The room that a text needs in a font, line by line.
 QSize textSize(const QFont& font, std::string_view text) {
-    const QFontMetricsF metrics{font};
-    double width = 0;
+    const QFontMetrics metrics{font};
+    int width = 0;
     const QStringList lines = latin(text).split(QStringLiteral("\r\n"));
     for (const QString& line : lines) width = std::max(width, metrics.horizontalAdvance(line));
-    const int lineHeight = static_cast<int>(std::ceil(metrics.height()));
-    return {static_cast<int>(std::ceil(width)) + 1, lineHeight * static_cast<int>(lines.size())};
+    return {width + 1, metrics.height() + metrics.lineSpacing() * static_cast<int>(lines.size() - 1)};
 }
 
 }  // namespace
