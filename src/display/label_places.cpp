@@ -103,7 +103,7 @@ ChartScale ChartScale::largestFor(const QSize& room, double devicePixelRatio) {
 }
 
 int ChartScale::pixels(int twips) const {
-    return static_cast<int>(std::lround(twips * minorPixels_ / (look::twipsPerPixel * naturalMinorPixels)));
+    return static_cast<int>(std::ceil(twips * minorPixels_ / (look::twipsPerPixel * naturalMinorPixels)));
 }
 
 int ChartScale::fontPixels(int pixelSize) const { return pixelSize * minorPixels_ / naturalMinorPixels; }

@@ -101,9 +101,10 @@ void NameBox::dropEvent(QDropEvent* event) {
 
 void NameBox::contextMenuEvent(QContextMenuEvent* event) {
     const std::unique_ptr<QMenu> menu{createStandardContextMenu()};
-    if (auto* paste = menu->findChild<QAction*>(QStringLiteral("edit-paste"))) {
-        paste->disconnect(this);
-        connect(paste, &QAction::triggered, this,
+    for (QAction* action : menu->actions()) {
+        if (action->text().section(QLatin1Char('\t'), 0, 0) != QLineEdit::tr("&Paste")) continue;
+        action->disconnect(this);
+        connect(action, &QAction::triggered, this,
                 [this] { insertFiltered(QGuiApplication::clipboard()->mimeData()); });
     }
     menu->exec(event->globalPos());

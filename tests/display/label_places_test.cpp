@@ -1,0 +1,135 @@
+// The labels of the chart as a person sees them: places, room and colours, in the real font.
+
+#include "display/label_places.h"
+
+#include <QMenuBar>
+#include <cmath>
+#include <map>
+
+#include "display/frmDisplay.h"
+#include "form_driver.h"
+
+namespace {
+
+// Shows a chart in whose first cell all 35 labels are filled at once.
+class Labels : public testing::Test {
+  protected:
+    Labels() {
+        ChartModel chart = cast(handCharts[0].entry);  // its Zi Wei is in the first cell
+        ChartCell& first = chart.cell(CellIndex{0});
+        for (const ChartCell& cell : chart.cells) {
+            for (const auto& [name, field] : captionFields) {
+                if ((first.*field).empty()) first.*field = cell.*field;
+            }
+        }
+        for (const FlagField& flag : flagFields) first.*flag.field = true;
+        display_.showChart(chart, {u"A", {}, 0, 0});
+    }
+
+    void scaleTo(int minorPixels) {
+        const QSize menu{0, display_.findChild<QMenuBar*>()->sizeHint().height()};
+        display_.resize(display_.fitInto(ChartScale{minorPixels}.chartSize() + menu));
+    }
+    QLabel* label(std::string_view name) const {
+        return display_.findChild<QLabel*>(QString::fromStdString(std::string{name} + "(0)"));
+    }
+
+    frmDisplay display_;
+};
+
+// Every text that the label may ever show, where there are several.
+QStringList textsOf(const QLabel& label) {
+    const auto words = [](const char* list) { return QString::fromLatin1(list).split(","_q); };
+    static const std::map<QString, QStringList> several{
+        {"lblEarthlyBranches(0)"_q, words("Zi Wei\nChou,Zi Wei\nChen,Zi Wei\nShen")},
+        {"lblPalaceSteam(0)"_q, words("Water\nGeng,Metal\nDing,Earth\nBing,Wood\nXin,Fire\nRen")},
+        {"lblPalace(0)"_q, words("Life Palace,Siblings,Marriage,Children,Property,Fortune,Parents")},
+        {"lblMajorStars(0)"_q, words("Tian Ji,Tai Yang,Wu Qu,Tian Tong,Lian Zhen")},
+        {"lblTianFu(0)"_q, words("Tian Fu,Tai Yin,Tan Lang,Ju Men,Tian Xiang,Tian Liang,Qi Sha,Po Jun")}};
+    const auto found = several.find(label.objectName());
+    return found == several.end() ? QStringList{label.text()} : found->second;
+}
+
+// The place of a label in its cell. Fails where one of its texts needs more room than that.
+QRect placeOf(const QLabel& label, int scale) {
+    const QFontMetrics metrics{label.font()};
+    for (const QString& text : textsOf(label)) {
+        const QStringList lines = text.split("\n"_q);
+        QSize needed{0, metrics.height() + metrics.lineSpacing() * static_cast<int>(lines.size() - 1)};
+        for (const QString& line : lines) {
+            needed.setWidth(std::max(needed.width(), metrics.horizontalAdvance(line)));
+        }
+        EXPECT_EQ(needed.boundedTo(label.size()), needed) << text.toStdString() << " is cut off at " << scale;
+    }
+    return label.geometry();
+}
+
+TEST_F(Labels, HaveRoomInACellAllAtOnce) {
+    const int least = ChartScale::largestFor({}, display_.devicePixelRatioF()).minorPixels();
+    for (int scale = least; scale <= 40; ++scale) {
+        scaleTo(scale);
+        const QRect room{{}, ChartScale{scale}.cellFrame(CellIndex{0}).size()};
+        std::map<std::string_view, QRect> places;
+        for (const CellLabel& row : cellLabels()) {
+            const QRect place = placeOf(*label(row.name), scale);
+            EXPECT_TRUE(room.contains(place)) << row.name << " leaves its cell at " << scale;
+            for (const auto& [other, taken] : places) {
+                EXPECT_FALSE(place.intersects(taken)) << row.name << " meets " << other << " at " << scale;
+            }
+            places[row.name] = place;
+        }
+        EXPECT_EQ(places.size(), captionFields.size() + flagFields.size());
+    }
+}
+
+TEST_F(Labels, StandWhereTheyAreStatedTo) {
+    scaleTo(11);  // where a pixel is 15 twips
+    const auto standsAt = [this](const char* name, int left, int top, int width = 0) {
+        EXPECT_EQ(label(name)->pos(), QPoint(left / 15, top / 15)) << name;
+        EXPECT_GE(label(name)->width(), width / 15) << name;
+    };
+    standsAt("lblEarthlyBranches", 60, 0);
+    standsAt("lblPalaceSteam", 60, 360);
+    standsAt("lblZuoFu", 1080, 720);
+    standsAt("lblHuaLu", 1875, 1920);
+    standsAt("lblTianFu", 60, 1380, 600);
+    standsAt("lblMajorStars", 60, 1605, 975);
+    standsAt("lblPalace", 60, 1920);
+    standsAt("lblBody", 2880, 1920);
+    constexpr int columns[]{0, 0, 0, 0, 1, 2, 3, 3, 3, 3, 2, 1}, rows[]{3, 2, 1, 0, 0, 0, 0, 1, 2, 3, 3, 3};
+    for (int cell = 0; cell < cellCount; ++cell) {
+        const QRect frame{240 * columns[cell], 144 * rows[cell], 241, 145};
+        EXPECT_EQ(display_.findChild<QWidget*>("Square(%1)"_q.arg(cell))->geometry(), frame) << cell;
+        EXPECT_EQ(display_.findChild<QWidget*>("lblCover(%1)"_q.arg(cell))->geometry(), frame) << cell;
+    }
+}
+
+double luminance(const QColor& colour) {
+    const auto part = [](double value) {
+        return value <= 0.04045 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * part(colour.redF()) + 0.7152 * part(colour.greenF()) + 0.0722 * part(colour.blueF());
+}
+
+TEST_F(Labels, CanBeReadOnALightChartEvenOnADarkDesktop) {
+    const QPalette before = QApplication::palette();
+    QApplication::setPalette(QPalette{QColor{40, 40, 40}});
+    scaleTo(12);
+    display_.show();
+    int count = 0;
+    for (const QLabel* label : display_.findChildren<QLabel*>()) {
+        if (label->text().isEmpty() || !label->isVisible()) continue;
+        ++count;
+        const QImage ground = label->parentWidget()->grab().toImage();
+        const double paper = luminance(ground.pixelColor(2, ground.height() / 2));  // left of all text
+        const double ink = luminance(label->palette().color(label->foregroundRole()));
+        EXPECT_GE((paper + 0.05) / (ink + 0.05), 4.5) << label->objectName().toStdString();
+    }
+    EXPECT_GT(count, 100);
+    const QColor blue = label("lblTianFu")->palette().color(QPalette::WindowText);
+    const QColor green = label("lblMajorStars")->palette().color(QPalette::WindowText);
+    EXPECT_TRUE(blue.blue() > 2 * blue.green() && green.green() > 2 * green.blue());
+    QApplication::setPalette(before);
+}
+
+}  // namespace

@@ -1,0 +1,20 @@
+// Runs the form tests: on the display where there is one, in the toolkit's memory where there is none.
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QTemporaryDir>
+
+#include "style/look.h"
+
+int main(int argc, char* argv[]) {
+    testing::InitGoogleTest(&argc, argv);
+    if (qEnvironmentVariableIsEmpty("DISPLAY")) qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QTemporaryDir settings;  // file dialogs remember where they were
+    qputenv("XDG_CONFIG_HOME", settings.path().toUtf8());
+    QApplication toolkit{argc, argv};
+    QApplication::setQuitOnLastWindowClosed(false);
+    QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+    QApplication::setFont(look::textFont(QApplication::font()));
+    return RUN_ALL_TESTS();
+}

@@ -1,0 +1,45 @@
+#!/bin/bash
+# Runs a command on a virtual display of its own, with a window manager, a session bus and, through that, the
+# accessibility bus. The display's size in pixels is taken from DISPLAY_SIZE. Ends as the command ends.
+set -euo pipefail
+
+scratch=$(mktemp -d)
+export XDG_RUNTIME_DIR=$scratch/runtime XDG_CONFIG_HOME=$scratch/config LC_ALL=C.UTF-8
+export QT_LINUX_ACCESSIBILITY_ALWAYS_ON=1
+mkdir -m 700 "$XDG_RUNTIME_DIR" "$XDG_CONFIG_HOME"
+unset WAYLAND_DISPLAY QT_QPA_PLATFORM QT_QPA_PLATFORMTHEME
+started=()
+
+clean_up() {
+    [ ${#started[@]} -eq 0 ] || kill "${started[@]}" 2>/dev/null || true
+    wait
+    rm -rf "$scratch"
+}
+trap clean_up EXIT
+
+# Waits ten seconds at most for a command to succeed.
+wait_for() {
+    for _ in $(seq 100); do
+        "$@" >/dev/null 2>&1 && return
+        sleep 0.1
+    done
+    echo "$0: waited in vain for: $*" >&2
+    cat "$scratch/log" >&2
+    exit 1
+}
+
+# What the servers say is of no interest unless one of them fails.
+Xvfb -displayfd 3 -screen 0 "${DISPLAY_SIZE:-1366x768}x24" -nolisten tcp -noreset \
+    3>"$scratch/display" >>"$scratch/log" 2>&1 &
+started+=($!)
+dbus-daemon --session --nofork --print-address=3 3>"$scratch/bus" >>"$scratch/log" 2>&1 &
+started+=($!)
+wait_for grep -q . "$scratch/display"
+wait_for grep -q . "$scratch/bus"
+DISPLAY=:$(cat "$scratch/display")
+DBUS_SESSION_BUS_ADDRESS=$(cat "$scratch/bus")
+export DISPLAY DBUS_SESSION_BUS_ADDRESS
+openbox >>"$scratch/log" 2>&1 &
+started+=($!)
+wait_for xdotool get_num_desktops
+"$@"
