@@ -1,69 +1,48 @@
-// A long day: rounds of fill, generate, open a palace, Show All and back through the real forms, in one process.
-// What must not grow is memory, the number of widgets and the time that a round takes.
+// A long day: linked with the program's own main, this plays rounds of fill, generate, open a palace, Show
+// All and back through the real forms. What must not grow is memory, the number of widgets and the time of a
+// round.
 
 #include <QApplication>
 #include <QComboBox>
-#include <QEventLoop>
-#include <QFile>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QTimer>
 #include <algorithm>
+#include <array>
 #include <cstdio>
-#include <cstdlib>
-#include <stdexcept>
 #include <vector>
 
-#include "app/application.h"
 #include "calendar/date_lists.h"
 #include "paint_watch.h"
-#include "style/look.h"
+#include "process.h"
 
 namespace {
 
-constexpr int warmUp = 200;
-constexpr double mostGrowth = 1.05;
-constexpr double slowest = 1.10;
+constexpr std::size_t warmUp = 200;
+constexpr std::size_t fullDay = 2000;
 
-long residentKilobytes() {
-    QFile status{QStringLiteral("/proc/self/status")};
-    if (!status.open(QIODevice::ReadOnly)) return 0;
-    const QList<QByteArray> lines = status.readAll().split('\n');
-    for (const QByteArray& line : lines) {
-        if (line.startsWith("VmRSS:")) return line.mid(6).trimmed().split(' ').front().toLong();
-    }
-    return 0;
+// How much more than after the first rounds is still no growth.
+constexpr double memoryReach = 1.05;
+constexpr double timeReach = 1.10;
+
+// A step of a round: the button to press, and what is painted then. A dialog is closed again.
+struct Step {
+    const char* button;
+    const char* painted;
+    bool dialog;
+};
+constexpr std::array<Step, 4> steps{{
+    {"cmdGenerateChart", "gfg", false},
+    {"lblCover(%1)", "RTB", true},
+    {"cmdShowAll", "RTB", true},
+    {"cmdBack", "frmMain", false},
+}};
+
+void select(const char* list, std::size_t round, int count) {
+    control<QComboBox>(QString::fromLatin1(list))->setCurrentIndex(static_cast<int>(round) % count);
 }
 
-template <class Control>
-Control* control(const QString& name) {
-    const QWidgetList all = QApplication::allWidgets();
-    for (QWidget* widget : all) {
-        if (widget->objectName() == name) return qobject_cast<Control*>(widget);
-    }
-    throw std::runtime_error("no " + name.toStdString());
-}
-
-void press(const QString& button) { control<QAbstractButton>(button)->click(); }
-
-// Presses the button and returns when what it opens is painted. The dialogs with the analysis are closed then.
-void pressAndAwait(PaintWatch& watch, const QString& button, const char* widget) {
-    bool done = false;
-    QEventLoop loop;
-    const bool dialog = QLatin1String{widget} == QLatin1String{"RTB"};
-    watch.await(QString::fromLatin1(widget), 0, [&done, &loop, dialog] {
-        done = true;
-        if (dialog) press(QStringLiteral("cmdOk"));
-        loop.quit();
-    });
-    press(button);
-    if (!done) loop.exec();
-}
-
-void select(const char* list, int round, int count) {
-    control<QComboBox>(QString::fromLatin1(list))->setCurrentIndex(round % count);
-}
-
-void fillForm(int round) {
+void fillForm(std::size_t round) {
     control<QLineEdit>(QStringLiteral("txtName"))->setText(QStringLiteral("SOMEBODY"));
     select("cmbDate", round, 28);
     select("cmbMonth", round / 28, monthCount);
@@ -72,64 +51,86 @@ void fillForm(int round) {
     select("cmbMinute", round, 60);
 }
 
-// Milliseconds.
-double playRound(PaintWatch& watch, int round) {
-    const double began = monotonicSeconds();
-    fillForm(round);
-    pressAndAwait(watch, QStringLiteral("cmdGenerateChart"), "gfg");
-    pressAndAwait(watch, QStringLiteral("lblCover(%1)").arg(round % 12), "RTB");
-    pressAndAwait(watch, QStringLiteral("cmdShowAll"), "RTB");
-    pressAndAwait(watch, QStringLiteral("cmdBack"), "frmMain");
-    return (monotonicSeconds() - began) * 1e3;
-}
-
 double median(std::vector<double>::const_iterator first, std::vector<double>::const_iterator last) {
     std::vector<double> sorted(first, last);
     std::sort(sorted.begin(), sorted.end());
     return sorted[sorted.size() / 2];
 }
 
-bool check(const char* what, double early, double late, double most, const char* unit) {
-    const bool sound = late <= early * most;
-    std::printf("%s: %.2f %s after the first %d rounds, %.2f at the end: %s\n", what, early, unit, warmUp, late,
-                sound ? "ok" : "GROWS");
+bool check(const char* what, double early, double late, double reach, const char* unit) {
+    const bool sound = late <= early * reach;
+    std::printf("%s: %.2f %s after the first %zu rounds, %.2f at the end: %s\n", what, early, unit, warmUp,
+                late, sound ? "ok" : "GROWS");
     return sound;
 }
 
-bool longDay(int rounds) {
-    PaintWatch watch;
-    Application application;
-    application.start();
-    std::vector<double> times;
-    long memory = 0;
-    qsizetype widgets = 0;
-    for (int round = 0; round < rounds; ++round) {
-        times.push_back(playRound(watch, round));
-        if (round + 1 != warmUp) continue;
-        memory = residentKilobytes();
-        widgets = QApplication::allWidgets().size();
+class LongDay {
+  public:
+    explicit LongDay(std::size_t rounds) : rounds_(rounds) {
+        watch_.await(QStringLiteral("frmMain"), 0, [this] { playStep(); });
     }
-    const auto early = median(times.begin() + warmUp, times.begin() + 2 * warmUp);
-    const auto late = median(times.end() - warmUp, times.end());
-    const bool memoryIsSound = check("memory", static_cast<double>(memory) / 1024,
-                                     static_cast<double>(residentKilobytes()) / 1024, mostGrowth, "MiB");
-    const bool widgetsAreSound = check("widgets", static_cast<double>(widgets),
-                                       static_cast<double>(QApplication::allWidgets().size()), 1, "alive");
-    return check("a round", early, late, slowest, "ms") && memoryIsSound && widgetsAreSound;
+
+  private:
+    // The steps are taken from the program's own event loop, one after another.
+    void playStep() {
+        const Step& step = steps[step_];
+        if (step_ == 0) beginRound();
+        watch_.await(QString::fromLatin1(step.painted), 0, [this, step] {
+            if (step.dialog) control<QPushButton>(QStringLiteral("cmdOk"))->click();
+            QTimer::singleShot(0, &watch_, [this] { endStep(); });
+        });
+        const QString button = QString::fromLatin1(step.button);
+        const bool isCell = button.contains(QLatin1Char('%'));
+        control<QAbstractButton>(isCell ? button.arg(times_.size() % 12) : button)->click();
+    }
+
+    void endStep() {
+        step_ = (step_ + 1) % steps.size();
+        if (step_ == 0) endRound();
+        if (times_.size() < rounds_ || step_ != 0) {
+            playStep();
+        } else {
+            QCoreApplication::exit(nothingGrew() ? 0 : 1);
+        }
+    }
+
+    void beginRound() {
+        began_ = monotonicSeconds();
+        fillForm(times_.size());
+    }
+
+    void endRound() {
+        times_.push_back((monotonicSeconds() - began_) * 1e3);
+        if (times_.size() != warmUp) return;
+        memory_ = megabytes("VmRSS:");
+        widgets_ = QApplication::allWidgets().size();
+    }
+
+    bool nothingGrew() const {
+        const double early = median(times_.begin() + warmUp, times_.begin() + 2 * warmUp);
+        const double late = median(times_.end() - warmUp, times_.end());
+        const bool memoryIsSound = check("memory", memory_, megabytes("VmRSS:"), memoryReach, "MiB");
+        const bool widgetsAreSound =
+            check("widgets", static_cast<double>(widgets_),
+                  static_cast<double>(QApplication::allWidgets().size()), 1, "alive");
+        return check("a round", early, late, timeReach, "ms") && memoryIsSound && widgetsAreSound;
+    }
+
+    PaintWatch watch_;
+    std::size_t rounds_;
+    std::size_t step_ = 0;
+    double began_ = 0;
+    std::vector<double> times_;
+    double memory_ = 0;
+    qsizetype widgets_ = 0;
+};
+
+// The number of rounds may be given, as the program's argument.
+void hook() {
+    const std::size_t rounds = QCoreApplication::arguments().value(1).toULongLong();
+    new LongDay{rounds == 0 ? fullDay : std::max(3 * warmUp, rounds)};
 }
 
 }  // namespace
 
-// The number of rounds may be given.
-int main(int argc, char* argv[]) {
-    QApplication toolkit{argc, argv};
-    QApplication::setQuitOnLastWindowClosed(false);
-    QApplication::setFont(look::textFont(QApplication::font()));
-    QApplication::setWindowIcon(look::productIcon());
-    try {
-        return longDay(argc > 1 ? std::max(3 * warmUp, std::atoi(argv[1])) : 2000) ? 0 : 1;
-    } catch (const std::exception& failure) {
-        std::fprintf(stderr, "%s\n", failure.what());
-        return 1;
-    }
-}
+Q_COREAPP_STARTUP_FUNCTION(hook)

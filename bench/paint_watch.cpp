@@ -45,7 +45,8 @@ bool PaintWatch::eventFilter(QObject* object, QEvent* event) {
 }
 
 bool PaintWatch::isAwaited(const QObject* object) const {
-    return object->objectName() == widget_ || (object->parent() != nullptr && object->parent()->objectName() == widget_);
+    return object->objectName() == widget_ ||
+           (object->parent() != nullptr && object->parent()->objectName() == widget_);
 }
 
 void PaintWatch::flushed() {

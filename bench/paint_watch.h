@@ -14,9 +14,9 @@ class PaintWatch : public QObject {
     // Watches every widget of the application.
     PaintWatch();
 
-    // Calls `painted` when a widget of that object name, or a child of it, has been painted and then left alone
-    // for the quiet time: a window may be painted again as soon as the window manager has given it its size. One
-    // wait at a time.
+    // Calls `painted` when a widget of that object name, or a child of it, has been painted and then left
+    // alone for the quiet time: a window may be painted again as soon as the window manager has given it its
+    // size. One wait at a time.
     void await(const QString& widget, int quietMilliseconds, std::function<void()> painted);
 
     // When the widget was painted for the last time before the quiet.

@@ -9,8 +9,8 @@
 
 namespace {
 
-constexpr auto captions = {"", "Palace Lantern", "Name", "Date", "Month", "Year", " Date Of Birth", "Hour", "Minutes",
-                           "Time Of Birth"};
+constexpr auto captions = {"",     "Palace Lantern", "Name", "Date",    "Month",
+                           "Year", " Date Of Birth", "Hour", "Minutes", "Time Of Birth"};
 constexpr auto buttons = {"Get My Palace Lantern Interpretation",
                           "Click Here To Open Previously Saved Palace Lantern Interpretation", "Exit"};
 constexpr int lists = 5;

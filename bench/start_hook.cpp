@@ -1,16 +1,17 @@
-// Linked into a program, this reports on standard output when the program's first window is painted, what that
-// took, and ends the program. The environment can ask for a chart, or a window of labels, to be opened first.
+// Linked into a program, this reports on standard output when the program's first window is painted, what
+// that took, and ends the program. The environment can ask for a chart, or a window of labels, to be opened
+// first.
 
 #include <sys/resource.h>
 #include <unistd.h>
 
 #include <QApplication>
-#include <QFile>
 #include <QLineEdit>
 #include <QPushButton>
 #include <cstdio>
 
 #include "paint_watch.h"
+#include "process.h"
 
 namespace {
 
@@ -23,37 +24,18 @@ double processorSeconds() {
     return seconds(usage.ru_utime) + seconds(usage.ru_stime);
 }
 
-long peakKilobytes() {
-    QFile status{QStringLiteral("/proc/self/status")};
-    if (!status.open(QIODevice::ReadOnly)) return 0;
-    const QList<QByteArray> lines = status.readAll().split('\n');
-    for (const QByteArray& line : lines) {
-        if (line.startsWith("VmHWM:")) return line.mid(6).trimmed().split(' ').front().toLong();
-    }
-    return 0;
-}
-
 void report(double painted) {
     const double processor = processorSeconds();
-    std::printf("%.6f %.6f %ld\n", painted, processor, peakKilobytes());
+    std::printf("%.6f %.6f %.3f\n", painted, processor, megabytes("VmHWM:"));
     std::fflush(stdout);
     ::_exit(0);
-}
-
-template <class Control>
-Control* control(const char* name) {
-    const QWidgetList all = QApplication::allWidgets();
-    for (QWidget* widget : all) {
-        if (widget->objectName() == QLatin1String{name}) return qobject_cast<Control*>(widget);
-    }
-    return nullptr;
 }
 
 // What opens the second window: the program's own button, or the bare program's only one of that name.
 void openSecond(PaintWatch& watch, const QString& widget) {
     watch.await(widget, 100, [&watch] { report(watch.lastPainted()); });
-    if (auto* name = control<QLineEdit>("txtName")) name->setText(QStringLiteral("SOMEBODY"));
-    control<QPushButton>("cmdGenerateChart")->click();
+    if (auto* name = control<QLineEdit>(QStringLiteral("txtName"))) name->setText(QStringLiteral("SOMEBODY"));
+    control<QPushButton>(QStringLiteral("cmdGenerateChart"))->click();
 }
 
 void hook() {

@@ -1,5 +1,5 @@
-// What the windows take, each beside a bare toolkit program that does the least for the same thing. Ours and the
-// bare one take turns; the table shows medians.
+// What the windows take, each beside a bare toolkit program that does the least for the same thing. Ours and
+// the bare one take turns; the table shows medians.
 
 #include <spawn.h>
 #include <sys/wait.h>
@@ -31,6 +31,7 @@
 #include "files/picture_export.h"
 #include "paint_watch.h"
 #include "plain_windows.h"
+#include "process.h"
 #include "style/look.h"
 #include "table.h"
 
@@ -53,8 +54,7 @@ struct Pair {
 };
 
 // A first turn of each warms up and is left out.
-template <class Ours, class Bare>
-Pair takeTurns(const Ours& ours, const Bare& bare) {
+Pair takeTurns(const std::function<double()>& ours, const std::function<double()>& bare) {
     Pair pair;
     ours();
     bare();
@@ -104,12 +104,12 @@ Start start(const Program& program) {
     std::FILE* report = ::fdopen(ends[0], "r");
     double painted = 0;
     double processor = 0;
-    long peak = 0;
-    const int read = std::fscanf(report, "%lf %lf %ld", &painted, &processor, &peak);
+    double peak = 0;
+    const int read = std::fscanf(report, "%lf %lf %lf", &painted, &processor, &peak);
     std::fclose(report);
     ::waitpid(child, nullptr, 0);
     if (read != 3) throw std::runtime_error("no report from " + program.path);
-    return {(painted - began) * 1e3, processor * 1e3, static_cast<double>(peak) / 1024};
+    return {(painted - began) * 1e3, processor * 1e3, peak};
 }
 
 void benchStarts(const std::string& ourPath, const std::string& barePath) {
@@ -137,15 +137,6 @@ void benchStarts(const std::string& ourPath, const std::string& barePath) {
 }
 
 // --- Windows of a running program ---
-
-template <class Control>
-Control* control(const QString& name) {
-    const QWidgetList all = QApplication::allWidgets();
-    for (QWidget* widget : all) {
-        if (widget->objectName() == name) return qobject_cast<Control*>(widget);
-    }
-    throw std::runtime_error("no " + name.toStdString());
-}
 
 void press(const char* button) { control<QAbstractButton>(QString::fromLatin1(button))->click(); }
 
@@ -199,7 +190,8 @@ std::vector<PlainLabel> labelsOfChart() {
 class Windows {
   public:
     Windows() {
-        timeWindow(watch_, QStringLiteral("frmMain"), [this] { application_.start(); }, [] {});
+        timeWindow(
+            watch_, QStringLiteral("frmMain"), [this] { application_.start(); }, [] {});
         fillForm();
         openChart([this] { labels_ = labelsOfChart(); });
     }
@@ -219,15 +211,18 @@ class Windows {
   private:
     void showChart() {
         fillForm();
-        timeWindow(watch_, QStringLiteral("gfg"), [] { press("cmdGenerateChart"); }, [] {});
+        timeWindow(
+            watch_, QStringLiteral("gfg"), [] { press("cmdGenerateChart"); }, [] {});
     }
 
     // Shows the chart and goes back again.
     double openChart(const std::function<void()>& meanwhile) {
         fillForm();
         settle();
-        const double time = timeWindow(watch_, QStringLiteral("gfg"), [] { press("cmdGenerateChart"); }, meanwhile);
-        timeWindow(watch_, QStringLiteral("frmMain"), [] { press("cmdBack"); }, [] {});
+        const double time = timeWindow(
+            watch_, QStringLiteral("gfg"), [] { press("cmdGenerateChart"); }, meanwhile);
+        timeWindow(
+            watch_, QStringLiteral("frmMain"), [] { press("cmdBack"); }, [] {});
         settle();
         return time;
     }
@@ -249,13 +244,14 @@ class Windows {
 
     double openAnalysis(const char* button) {
         settle();
-        return timeWindow(watch_, QStringLiteral("RTB"), [button] { press(button); },
-                          [this] {
-                              auto* text = control<QTextEdit>(QStringLiteral("RTB"));
-                              text_ = text->toPlainText();
-                              textSize_ = text->window()->size();
-                              press("cmdOk");
-                          });
+        return timeWindow(
+            watch_, QStringLiteral("RTB"), [button] { press(button); },
+            [this] {
+                auto* text = control<QTextEdit>(QStringLiteral("RTB"));
+                text_ = text->toPlainText();
+                textSize_ = text->window()->size();
+                press("cmdOk");
+            });
     }
 
     double openText() {
@@ -296,8 +292,8 @@ class Windows {
         unsigned char* bytes = nullptr;
         unsigned long size = 0;
         const int result = tjCompress2(compressor, picture_.constBits(), picture_.width(),
-                                       static_cast<int>(picture_.bytesPerLine()), picture_.height(), TJPF_BGRX,
-                                       &bytes, &size, TJSAMP_444, 100, TJFLAG_ACCURATEDCT);
+                                       static_cast<int>(picture_.bytesPerLine()), picture_.height(),
+                                       TJPF_BGRX, &bytes, &size, TJSAMP_444, 100, TJFLAG_ACCURATEDCT);
         const double time = monotonicSeconds() - began;
         tjFree(bytes);
         tjDestroy(compressor);
@@ -321,7 +317,8 @@ int main(int argc, char* argv[]) {
         const std::filesystem::path self = std::filesystem::canonical("/proc/self/exe");
         const auto build = self.parent_path().parent_path();
         const std::string only = argc > 1 ? argv[1] : "";
-        if (only != "windows") benchStarts(build / "app/palace-lantern-hooked", build / "bench/bare_start");
+        if (only != "windows")
+            benchStarts(build / "app/palace-lantern-start_hook", build / "bench/bare_start");
         if (only == "starts") return 0;
         QApplication toolkit{argc, argv};
         QApplication::setQuitOnLastWindowClosed(false);

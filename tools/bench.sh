@@ -7,8 +7,12 @@ cd "$(dirname "$0")/.."
 cmake --preset bench >/dev/null
 cmake --build --preset bench >&2
 build=$PWD/build/bench/bench
+# In memory, as a user's runtime folder is.
+runtime=$(mktemp -d -p /dev/shm)
+trap 'rm -rf "$runtime"' EXIT
 {
     printf 'figure\tours\tbare\tratio\treach\tverdict\n'
     "$build/core_bench"
-    DISPLAY_SIZE=1920x1080 tools/display.sh env -u QT_LINUX_ACCESSIBILITY_ALWAYS_ON "$build/windows_bench" "$@"
+    DISPLAY_SIZE=1920x1080 tools/display.sh \
+        env -u QT_LINUX_ACCESSIBILITY_ALWAYS_ON XDG_RUNTIME_DIR="$runtime" "$build/windows_bench" "$@"
 } | column -t -s $'\t'

@@ -5,4 +5,5 @@ cd "$(dirname "$0")/.."
 
 cmake --preset bench >/dev/null
 cmake --build --preset bench >&2
-DISPLAY_SIZE=1920x1080 tools/display.sh env -u QT_LINUX_ACCESSIBILITY_ALWAYS_ON build/bench/bench/long_day "$@"
+DISPLAY_SIZE=1920x1080 tools/display.sh \
+    env -u QT_LINUX_ACCESSIBILITY_ALWAYS_ON build/bench/app/palace-lantern-long_day "$@"

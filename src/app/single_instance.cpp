@@ -1,9 +1,13 @@
 #include "app/single_instance.h"
 
+#include <fcntl.h>
+#include <sys/file.h>
 #include <unistd.h>
 
 #include <QDir>
+#include <QFile>
 #include <QStandardPaths>
+#include <cerrno>
 
 namespace {
 
@@ -18,14 +22,20 @@ QStringList lockPaths() {
 
 }  // namespace
 
+// The kernel gives the lock back whenever and however the process ends, so that none is ever stale; the file
+// itself stays.
 SingleInstance::SingleInstance() {
     for (const QString& path : lockPaths()) {
-        lock_ = std::make_unique<QLockFile>(path);
-        lock_->setStaleLockTime(0);  // only a program that is gone leaves a stale lock, however old it is
-        if (lock_->tryLock(0)) return;
-        if (lock_->error() == QLockFile::LockFailedError) {
-            anotherIsRunning_ = true;
-            return;
-        }
+        lock_ = ::open(QFile::encodeName(path).constData(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, 0600);
+        if (lock_ < 0) continue;
+        if (::flock(lock_, LOCK_EX | LOCK_NB) == 0) return;
+        anotherIsRunning_ = errno == EWOULDBLOCK;
+        if (anotherIsRunning_) return;
+        ::close(lock_);
+        lock_ = -1;
     }
+}
+
+SingleInstance::~SingleInstance() {
+    if (lock_ >= 0) ::close(lock_);
 }

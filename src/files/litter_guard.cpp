@@ -1,6 +1,7 @@
 #include "files/litter_guard.h"
 
 #include <fcntl.h>
+#include <sys/socket.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -31,7 +32,7 @@ namespace {
 
 LitterGuard::LitterGuard(std::string path) : path_(std::move(path)) {
     std::array<int, 2> ends{};
-    if (::pipe2(ends.data(), O_CLOEXEC) != 0) return;
+    if (::socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, ends.data()) != 0) return;
     watcher_ = ::fork();
     if (watcher_ == 0) {
         ::close(ends[1]);
@@ -45,7 +46,7 @@ LitterGuard::~LitterGuard() {
     ::unlink(path_.c_str());
     if (pipe_ < 0) return;
     const char tidied = 1;
-    while (::write(pipe_, &tidied, 1) < 0 && errno == EINTR) {
+    while (::send(pipe_, &tidied, 1, MSG_NOSIGNAL) < 0 && errno == EINTR) {
     }
     ::close(pipe_);
     if (watcher_ > 0) ::waitpid(watcher_, nullptr, 0);

@@ -35,9 +35,9 @@ WholeFile::WholeFile(const std::filesystem::path& path) : path_(path) {
     sound_ = openNameless() || openNamed();
 }
 
+// What is left under the temporary name goes with the guard, even if the program is killed.
 WholeFile::~WholeFile() {
     if (descriptor_ >= 0) ::close(descriptor_);
-    if (!temporary_.empty()) ::unlink(temporary_.c_str());
 }
 
 bool WholeFile::openNameless() {
@@ -47,16 +47,19 @@ bool WholeFile::openNameless() {
     return descriptor_ >= 0;
 }
 
+void WholeFile::chooseTemporaryName() {
+    std::error_code error;
+    int attempt = 0;
+    do {
+        temporary_ = temporaryName(path_, attempt++);
+    } while (attempt < attempts &&
+             std::filesystem::exists(std::filesystem::symlink_status(temporary_, error)));
+    guard_.emplace(temporary_);
+}
+
 bool WholeFile::openNamed() {
-    for (int attempt = 0; attempt < attempts && descriptor_ < 0; ++attempt) {
-        const std::string name = temporaryName(path_, attempt);
-        descriptor_ = ::open(name.c_str(), O_CREAT | O_EXCL | O_WRONLY | O_CLOEXEC, ordinaryMode);
-        if (descriptor_ >= 0) {
-            temporary_ = name;
-        } else if (errno != EEXIST) {
-            return false;
-        }
-    }
+    chooseTemporaryName();
+    descriptor_ = ::open(temporary_.c_str(), O_CREAT | O_EXCL | O_WRONLY | O_CLOEXEC, ordinaryMode);
     return descriptor_ >= 0;
 }
 
@@ -73,16 +76,9 @@ bool WholeFile::write(std::string_view bytes) {
 }
 
 bool WholeFile::nameTemporarily() {
+    chooseTemporaryName();
     const std::string self = "/proc/self/fd/" + std::to_string(descriptor_);
-    for (int attempt = 0; attempt < attempts; ++attempt) {
-        const std::string name = temporaryName(path_, attempt);
-        if (::linkat(AT_FDCWD, self.c_str(), AT_FDCWD, name.c_str(), AT_SYMLINK_FOLLOW) == 0) {
-            temporary_ = name;
-            return true;
-        }
-        if (errno != EEXIST) return false;
-    }
-    return false;
+    return ::linkat(AT_FDCWD, self.c_str(), AT_FDCWD, temporary_.c_str(), AT_SYMLINK_FOLLOW) == 0;
 }
 
 bool WholeFile::commit() {
@@ -98,7 +94,5 @@ bool WholeFile::commit() {
         if (::linkat(AT_FDCWD, self.c_str(), AT_FDCWD, path_.c_str(), AT_SYMLINK_FOLLOW) == 0) return true;
     }
     if (temporary_.empty() && !nameTemporarily()) return false;
-    if (::rename(temporary_.c_str(), path_.c_str()) != 0) return false;
-    temporary_.clear();
-    return true;
+    return ::rename(temporary_.c_str(), path_.c_str()) == 0;
 }

@@ -3,8 +3,11 @@
 #pragma once
 
 #include <filesystem>
+#include <optional>
 #include <string>
 #include <string_view>
+
+#include "files/litter_guard.h"
 
 class WholeFile {
   public:
@@ -25,9 +28,11 @@ class WholeFile {
     bool openNameless();
     bool openNamed();
     bool nameTemporarily();
+    void chooseTemporaryName();
 
     std::filesystem::path path_;
-    std::string temporary_;  // the temporary name, or empty while the file has none
+    std::optional<LitterGuard> guard_;  // over the temporary name
+    std::string temporary_;             // the temporary name, or empty while the file has none
     int descriptor_ = -1;
     bool sound_ = false;
 };
