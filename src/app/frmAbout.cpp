@@ -34,7 +34,6 @@ frmAbout::frmAbout(QWidget* parent) : QDialog(parent) {
     purpose->setMinimumWidth(260);
     auto* cmdOk = new QPushButton{tr("&OK")};
     cmdOk->setObjectName(QStringLiteral("cmdOk"));
-    cmdOk->setDefault(true);
     connect(cmdOk, &QPushButton::clicked, this, &QDialog::accept);
 
     auto* grid = new QGridLayout{this};
@@ -46,4 +45,5 @@ frmAbout::frmAbout(QWidget* parent) : QDialog(parent) {
                     1);
     grid->addWidget(purpose, 2, 1);
     grid->addWidget(cmdOk, 3, 1, Qt::AlignRight);
+    cmdOk->setDefault(true);
 }

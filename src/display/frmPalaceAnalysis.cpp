@@ -46,6 +46,7 @@ frmPalaceAnalysis::frmPalaceAnalysis(AnalysisKind kind, QWidget* parent) : QDial
     rows->setSpacing(10);
     rows->addWidget(RTB);
     createButtons(kind, rows);
+    cmdOk->setDefault(true);
     createMenus();
     fitToScreen();
 }
@@ -71,7 +72,6 @@ void frmPalaceAnalysis::createButtons(AnalysisKind kind, QVBoxLayout* rows) {
     cmdSave = named(new QPushButton{tr("&Save")}, "cmdSave");
     cmdPrint = named(new QPushButton{tr("&Print")}, "cmdPrint");
     cmdOk = named(new QPushButton{tr("&OK")}, "cmdOk");
-    cmdOk->setDefault(true);
     connect(cmdSave, &QPushButton::clicked, this, &frmPalaceAnalysis::saveRequested);
     connect(cmdPrint, &QPushButton::clicked, this, &frmPalaceAnalysis::cmdPrint_Click);
     connect(cmdOk, &QPushButton::clicked, this, &QDialog::accept);

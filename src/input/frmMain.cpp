@@ -93,6 +93,8 @@ void frmMain::createControls() {
     whole->setContentsMargins(0, 0, 0, 0);
     whole->addWidget(scroll_);
     createMenus();
+    // Only now: a button takes note of its dialog when it is made the default, and must be in it by then.
+    cmdGenerateChart->setDefault(true);
 }
 
 QWidget* frmMain::createBanner() {
@@ -153,7 +155,6 @@ QWidget* frmMain::createButtons() {
     cmdOpen = named(new QPushButton{tr("Click Here To Open Previously Saved Palace Lantern Interpretation")},
                     "cmdOpen");
     cmExit = named(new QPushButton{tr("&Exit")}, "cmExit");
-    cmdGenerateChart->setDefault(true);
     QFont strong = cmdGenerateChart->font();
     strong.setBold(true);
     cmdGenerateChart->setFont(strong);
