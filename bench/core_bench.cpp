@@ -2,19 +2,16 @@
 
 #include <benchmark/benchmark.h>
 
-#include <cstdlib>
-#include <new>
 #include <string>
 #include <vector>
 
+#include "allocations.h"
 #include "chart/generate.h"
 #include "input/input_check.h"
 #include "interpret/composer.h"
 #include "table.h"
 
 namespace {
-
-long allocations = 0;
 
 // Every date that passes the check, at each of the twelve double-hours and at midnight.
 std::vector<BirthEntry> allEntries() {
@@ -42,12 +39,12 @@ void oneChart(benchmark::State& state) {
     BirthEntry entry{u"SOMEBODY", {14, 5, 20}, 10, 30};
     ChartModel chart;
     cast(entry, chart);
-    const long before = allocations;
+    const long before = allocationCount();
     for (auto _ : state) {
         cast(entry, chart);
         benchmark::ClobberMemory();
     }
-    state.counters["allocations"] = static_cast<double>(allocations - before);
+    state.counters["allocations"] = static_cast<double>(allocationCount() - before);
 }
 
 // The midnight rule moves an entry's date on, so each pass works on entries of its own.
@@ -101,16 +98,6 @@ class TableReporter : public benchmark::BenchmarkReporter {
 };
 
 }  // namespace
-
-// NOLINTBEGIN(misc-new-delete-overloads): these count, and else do what the ordinary ones do
-void* operator new(std::size_t size) {
-    ++allocations;
-    if (void* memory = std::malloc(size)) return memory;
-    throw std::bad_alloc{};
-}
-void operator delete(void* memory) noexcept { std::free(memory); }
-void operator delete(void* memory, std::size_t) noexcept { std::free(memory); }
-// NOLINTEND(misc-new-delete-overloads)
 
 // With any argument it is an ordinary benchmark program; without one it prints rows of the table.
 int main(int argc, char** argv) {

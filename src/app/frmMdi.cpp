@@ -116,11 +116,8 @@ void frmMdi::hostChart(QWidget* chart, std::function<QSize(QSize)> fit) {
     chartWindow_->setAttribute(Qt::WA_DeleteOnClose, false);
     chartWindow_->setWindowIcon(windowIcon());
     chartWindow_->installEventFilter(this);
-    area_->installEventFilter(this);
+    area_->viewport()->installEventFilter(this);
     chartWindow_->show();
-    layout()->activate();
-    centralWidget()->layout()->activate();
-    placeChart();
     // The chart window takes the focus when it is shown; it belongs to the strip until a person moves it.
     QMetaObject::invokeMethod(cmdShowAll, qOverload<>(&QWidget::setFocus), Qt::QueuedConnection);
 }
@@ -157,10 +154,9 @@ bool frmMdi::eventFilter(QObject* watched, QEvent* event) {
         emit exitRequested();
         return true;
     }
-    const bool resized = watched == area_ && event->type() == QEvent::Resize;
-    const bool handled = QMainWindow::eventFilter(watched, event);
-    if (resized) QMetaObject::invokeMethod(this, &frmMdi::placeChart, Qt::QueuedConnection);
-    return handled;
+    // At once, before the frame is painted at its new size, or all would be painted twice.
+    if (watched == area_->viewport() && event->type() == QEvent::Resize) placeChart();
+    return QMainWindow::eventFilter(watched, event);
 }
 
 // The chart window's menus hear their access keys only while the focus is in that window.

@@ -1,6 +1,7 @@
 // Palace Lantern: casts a Zi Wei Dou Shu birth chart for one person and explains it in English.
 
 #include <QApplication>
+#include <QPixmapCache>
 
 #include "app/application.h"
 #include "app/required_file.h"
@@ -16,6 +17,9 @@ int main(int argc, char* argv[]) {
     QApplication::setApplicationName(QStringLiteral("palace-lantern"));
     QApplication::setDesktopFileName(QStringLiteral("palace-lantern"));
     QApplication::setQuitOnLastWindowClosed(false);
+    // Else the toolkit keeps a picture of each scroll bar that it draws, and every text has one of its own
+    // length.
+    QPixmapCache::setCacheLimit(0);
     QApplication::setFont(look::textFont(QApplication::font()));
     QApplication::setWindowIcon(look::productIcon());
 

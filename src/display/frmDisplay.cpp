@@ -103,6 +103,7 @@ frmDisplay::frmDisplay() {
     scroll_ = new QScrollArea;
     scroll_->setFrameShape(QFrame::NoFrame);
     scroll_->setFocusPolicy(Qt::NoFocus);
+    scroll_->setAutoFillBackground(true);  // so that a picture of it has no use for transparency
     scroll_->setWidget(gfg);
     createMenus();
     auto* rows = new QVBoxLayout{this};

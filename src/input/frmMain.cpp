@@ -103,7 +103,7 @@ QWidget* frmMain::createBanner() {
     row->setContentsMargins(0, 0, 0, 0);
     auto* mark = new QLabel;
     mark->setAccessibleName(tr("Lantern"));
-    mark->setPixmap(look::productIcon().pixmap(QSize{48, 48}, devicePixelRatioF()));
+    mark->setPixmap(windowIcon().pixmap(QSize{48, 48}, devicePixelRatioF()));
     row->addWidget(mark);
     lblBanner = named(new LinkLabel{look::productName(), banner}, "lblBanner");
     QFont title = lblBanner->font();

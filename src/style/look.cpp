@@ -1,13 +1,17 @@
 #include "style/look.h"
 
+#include <QFontDatabase>
 #include <QIcon>
 
 namespace look {
 
 namespace {
 
+// Only the face that is there, for a look-up of one that is not takes time at every size.
 QStringList faces() {
-    static const QStringList families{QStringLiteral("Verdana"), QStringLiteral("DejaVu Sans")};
+    static const QString verdana = QStringLiteral("Verdana");
+    static const QStringList families{QFontDatabase::hasFamily(verdana) ? verdana
+                                                                        : QStringLiteral("DejaVu Sans")};
     return families;
 }
 

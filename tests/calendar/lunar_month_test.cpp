@@ -42,6 +42,13 @@ TEST(LunarMonth, KeepsItsValueOnDatesWithoutANumber) {
         EXPECT_EQ(numberOn(gap, 0), 0) << gap;
         EXPECT_EQ(numberOn(gap, 7), 7) << gap;
     }
+    int count = 0;
+    for (int i = 0; i < yearCount * monthCount * dayCount; ++i) {
+        LunarMonth = 0;
+        FindLunarMonth({i % dayCount, i / dayCount % monthCount, i / dayCount / monthCount});
+        count += LunarMonth == 0 ? 1 : 0;
+    }
+    EXPECT_EQ(count, 21 + 8) << "three weeks of May 1974, and eight single days";
     expectNumbers("8.7.1975=5 10.7.1975=6 18.10.1982=9 14.5.1983=4 19.6.1985=5 26.4.1990=4 13.1.1994=12");
     expectNumbers("18.2.1996=12 20.2.1996=1 18.5.1996=4 30.4.1974=4 22.5.1974=4");
 }

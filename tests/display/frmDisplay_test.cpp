@@ -3,7 +3,6 @@
 #include "display/frmDisplay.h"
 
 #include <QSignalSpy>
-#include <map>
 
 #include "form_driver.h"
 
@@ -86,18 +85,17 @@ TEST_F(ChartWindow, IsWalkedByArrowKeysAndOpenedByKeysAndClicks) {
     show(handCharts[0].entry);
     QSignalSpy clicked{&display_, &frmDisplay::palaceClicked}, left{&display_, &frmDisplay::tabbedOut};
     cover(0)->setFocus();
-    const auto walk = [this](const char* steps) {
-        const std::map<char, Qt::Key> keys{
-            {'u', Qt::Key_Up}, {'d', Qt::Key_Down}, {'l', Qt::Key_Left}, {'r', Qt::Key_Right}};
+    const auto walk = [this](const QString& steps) {
         std::string path;
-        for (; *steps != '\0'; ++steps) {
-            QTest::keyClick(display_.focusWidget(), keys.at(*steps));
+        for (const QChar step : steps) {
+            const std::array keys{Qt::Key_Left, Qt::Key_Up, Qt::Key_Right, Qt::Key_Down};
+            QTest::keyClick(display_.focusWidget(), keys[std::size_t("lurd"_q.indexOf(step))]);
             path += display_.focusWidget()->objectName().mid(8).toStdString();
         }
         return path;
     };
-    EXPECT_EQ(walk("uuurrrdddlll"), "(1)(2)(3)(4)(5)(6)(7)(8)(9)(10)(11)(0)");
-    EXPECT_EQ(walk("lurdluuu"), "(0)(1)(8)(9)(10)(5)(5)(5)") << "edges, and across the centre";
+    EXPECT_EQ(walk("uuurrrdddlll"_q), "(1)(2)(3)(4)(5)(6)(7)(8)(9)(10)(11)(0)");
+    EXPECT_EQ(walk("lurdluuu"_q), "(0)(1)(8)(9)(10)(5)(5)(5)") << "edges, and across the centre";
     QTest::keyClick(display_.focusWidget(), Qt::Key_Return);
     QTest::keyClick(display_.focusWidget(), Qt::Key_Space);
     QTest::mouseClick(cover(7), Qt::LeftButton);
