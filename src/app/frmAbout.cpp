@@ -1,6 +1,7 @@
 #include "app/frmAbout.h"
 
 #include <QGridLayout>
+#include <QIcon>
 #include <QLabel>
 #include <QPushButton>
 
@@ -22,7 +23,8 @@ frmAbout::frmAbout(QWidget* parent) : QDialog(parent) {
     setWindowTitle(tr("About Palace Lantern"));
     auto* mark = new QLabel;
     mark->setAccessibleName(tr("Lantern"));
-    mark->setPixmap(look::productIcon().pixmap(QSize{64, 64}, devicePixelRatioF()));
+    mark->setPixmap(
+        QIcon{QStringLiteral(":/icons/palace-lantern-128.png")}.pixmap(QSize{64, 64}, devicePixelRatioF()));
     QLabel* name = plainLabel(look::productName(), "lblProduct");
     QFont title = name->font();
     title.setPointSizeF(title.pointSizeF() * 1.7);

@@ -1,5 +1,6 @@
 #include "app/frmMdi.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QMdiArea>
@@ -43,8 +44,11 @@ frmMdi::frmMdi() {
 }
 
 void frmMdi::MDIForm_Load() {
-    // As large as it will be when it is maximised, so that nothing has to be laid out twice.
-    resize(screen()->availableSize());
+    // About as large as it will be when it is maximised, with the border of the window that is there now, so
+    // that the chart need not be laid out twice.
+    const QWidget* shown = QApplication::activeWindow();
+    const QSize border = shown == nullptr ? QSize{} : shown->frameSize() - shown->size();
+    resize(screen()->availableSize() - border);
     placeStrip();
 }
 

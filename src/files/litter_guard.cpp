@@ -1,6 +1,6 @@
 #include "files/litter_guard.h"
 
-#include <fcntl.h>
+#include <spawn.h>
 #include <sys/socket.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -11,21 +11,29 @@
 
 namespace {
 
-// In the watcher, which may only do what is safe after a fork: wait until the other end of the pipe is
-// closed. A byte before that says that the program has tidied up itself; the end without one, that it is
-// gone.
-[[noreturn]] void watch(int pipe, const char* path) {
-    ::setsid();
+// Waits until the other end of its standard input is closed. A line before that says that the program has
+// tidied up itself; the end without one, that it is gone.
+constexpr auto watch = "read -r tidied || exec rm -f -- \"$0\"";
+
+// Starts the watcher in a session of its own, out of reach of what ends the program. Not a fork: that would
+// copy the whole program's memory maps.
+pid_t startWatcher(int pipe, std::string path) {
+    posix_spawn_file_actions_t files;
+    posix_spawnattr_t attributes;
     sigset_t all{};
     ::sigfillset(&all);
-    ::sigprocmask(SIG_BLOCK, &all, nullptr);
-    char tidied = 0;
-    ssize_t count = 0;
-    do {
-        count = ::read(pipe, &tidied, 1);
-    } while (count < 0 && errno == EINTR);
-    if (count == 0) ::unlink(path);
-    ::_exit(0);
+    ::posix_spawn_file_actions_init(&files);
+    ::posix_spawn_file_actions_adddup2(&files, pipe, STDIN_FILENO);
+    ::posix_spawnattr_init(&attributes);
+    ::posix_spawnattr_setflags(&attributes, POSIX_SPAWN_SETSID | POSIX_SPAWN_SETSIGMASK);
+    ::posix_spawnattr_setsigmask(&attributes, &all);
+    std::string shell = "sh", option = "-c", script = watch;
+    char* arguments[] = {shell.data(), option.data(), script.data(), path.data(), nullptr};
+    pid_t watcher = -1;
+    if (::posix_spawn(&watcher, "/bin/sh", &files, &attributes, arguments, environ) != 0) watcher = -1;
+    ::posix_spawnattr_destroy(&attributes);
+    ::posix_spawn_file_actions_destroy(&files);
+    return watcher;
 }
 
 }  // namespace
@@ -33,11 +41,7 @@ namespace {
 LitterGuard::LitterGuard(std::string path) : path_(std::move(path)) {
     std::array<int, 2> ends{};
     if (::socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, ends.data()) != 0) return;
-    watcher_ = ::fork();
-    if (watcher_ == 0) {
-        ::close(ends[1]);
-        watch(ends[0], path_.c_str());
-    }
+    watcher_ = startWatcher(ends[0], path_);
     ::close(ends[0]);
     pipe_ = ends[1];
 }
@@ -45,7 +49,7 @@ LitterGuard::LitterGuard(std::string path) : path_(std::move(path)) {
 LitterGuard::~LitterGuard() {
     ::unlink(path_.c_str());
     if (pipe_ < 0) return;
-    const char tidied = 1;
+    const char tidied = '\n';
     while (::send(pipe_, &tidied, 1, MSG_NOSIGNAL) < 0 && errno == EINTR) {
     }
     ::close(pipe_);

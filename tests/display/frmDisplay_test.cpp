@@ -77,7 +77,11 @@ TEST_F(ChartWindow, HintsAtWhatThePointerOrTheFocusIsOn) {
     EXPECT_TRUE(hintIs(onGround));
     cover(4)->setFocus();
     EXPECT_TRUE(hintIs(onCell));
-    cover(4)->clearFocus();
+    QTest::mouseMove(find("gfg"_q), {2, 9});
+    EXPECT_TRUE(hintIs(onGround));
+    cover(5)->setFocus();
+    EXPECT_TRUE(hintIs(onCell));
+    cover(5)->clearFocus();
     EXPECT_TRUE(hintIs(onGround));
 }
 
