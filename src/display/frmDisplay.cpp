@@ -113,6 +113,11 @@ frmDisplay::frmDisplay() {
     rows->addWidget(scroll_);
 }
 
+// A cell loses the focus while the window goes, and has nobody to tell by then.
+frmDisplay::~frmDisplay() {
+    for (LblCover* cover : lblCover) cover->disconnect(this);
+}
+
 void frmDisplay::createMenus() {
     menus_ = new QMenuBar{this};
     menus_->setNativeMenuBar(false);

@@ -20,6 +20,7 @@ class frmDisplay : public QWidget {
     Q_OBJECT
   public:
     frmDisplay();
+    ~frmDisplay() override;
 
     // Fills cells and header from the chart and from the entry as the lists now stand.
     void showChart(const ChartModel& chart, const BirthEntry& entry);

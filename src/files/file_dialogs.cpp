@@ -73,7 +73,7 @@ QString askWhereToSaveChart(QWidget* parent) {
         dialog.setFileMode(QFileDialog::AnyFile);
         apply(saveSetting, dialog);
         if (!folder.isEmpty()) dialog.setDirectory(folder);
-        const QString path = chosen(dialog);
+        QString path = chosen(dialog);
         const QString obstacle = path.isEmpty() ? QString{} : obstacleTo(path);
         if (obstacle.isEmpty()) return path;
         folder = dialog.directory().absolutePath();

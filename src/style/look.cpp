@@ -34,7 +34,7 @@ QFont chartFont(int pixelSize, bool bold) {
 }
 
 QColor linkColour(const QWidget& on) {
-    const QPalette palette = on.palette();
+    const QPalette& palette = on.palette();
     const bool darkGround = palette.color(QPalette::Window).lightnessF() < 0.5F;
     if (!darkGround) return blue;
     const QColor link = palette.color(QPalette::Link);
