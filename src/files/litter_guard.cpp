@@ -17,7 +17,7 @@ constexpr auto watch = "read -r tidied || exec rm -f -- \"$0\"";
 
 // Starts the watcher in a session of its own, out of reach of what ends the program. Not a fork: that would
 // copy the whole program's memory maps.
-pid_t startWatcher(int pipe, std::string path) {
+pid_t startWatcher(int pipe, const std::string& path) {
     posix_spawn_file_actions_t files;
     posix_spawnattr_t attributes;
     sigset_t all{};
@@ -27,8 +27,8 @@ pid_t startWatcher(int pipe, std::string path) {
     ::posix_spawnattr_init(&attributes);
     ::posix_spawnattr_setflags(&attributes, POSIX_SPAWN_SETSID | POSIX_SPAWN_SETSIGMASK);
     ::posix_spawnattr_setsigmask(&attributes, &all);
-    std::string shell = "sh", option = "-c", script = watch;
-    char* arguments[] = {shell.data(), option.data(), script.data(), path.data(), nullptr};
+    std::string shell = "sh", option = "-c", script = watch, file = path;
+    char* arguments[] = {shell.data(), option.data(), script.data(), file.data(), nullptr};
     pid_t watcher = -1;
     if (::posix_spawn(&watcher, "/bin/sh", &files, &attributes, arguments, environ) != 0) watcher = -1;
     ::posix_spawnattr_destroy(&attributes);
