@@ -1,6 +1,7 @@
 #include "display/chart_accessibility.h"
 
 #include <QAccessibleWidget>
+#include <QScrollArea>
 
 #include "display/cell_square.h"
 
@@ -29,6 +30,9 @@ class SquareInterface : public QAccessibleWidget {
 };
 
 QAccessibleInterface* createInterface(const QString&, QObject* object) {
+    // The toolkit's own interface of a scroll area asks for bars that have just gone, and crashes on it.
+    if (auto* area = qobject_cast<QScrollArea*>(object))
+        return new QAccessibleWidget{area, QAccessible::Client};
     auto* square = qobject_cast<ChartSquare*>(object);
     return square == nullptr ? nullptr : new SquareInterface{square};
 }
