@@ -45,10 +45,22 @@ def pick(choice, entry):
 
 def answer_message(program, text):
     message = program.message()
+    expect(message.role == "alert" and message.node.get_description() == text, f"'{text}' is not announced")
+    wait_until(lambda: "window:activate" in program.heard(message), "the announcement of the message")
     expect(text in [label.name for label in message.all("label")], f"the message does not say '{text}'")
     check_names(message)
     message.find("push button", "OK").do("Press")
     program.wait_closed(message)
+
+
+def ask_what_it_is(program):
+    """The about box, from the menu, which answers before the box opens"""
+    items = form(program).all("menu item", hidden=True)
+    next(item for item in items if item.name == "About Software").do("Press")
+    about = program.window("About Palace Lantern")
+    check_names(about)
+    about.find("push button", "OK").do("Press")
+    program.wait_closed(about)
 
 
 def fill_in(program):
@@ -130,7 +142,7 @@ def leave(program):
 
 def main(path=PROGRAM):
     with Program(path) as program, tempfile.TemporaryDirectory() as files:
-        steps = [(fill_in,), (read_chart,), (open_palace,), (save_all, pathlib.Path(files) / "chart.plf"),
+        steps = [(ask_what_it_is,), (fill_in,), (read_chart,), (open_palace,), (save_all, pathlib.Path(files) / "chart.plf"),
                  (go_back,), (leave,)]
         for step, *arguments in steps:
             print(f"  {step.__doc__}", flush=True)

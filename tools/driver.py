@@ -148,6 +148,9 @@ class Program:
             "QT_SCALE_FACTOR": str(scale),
         }
         self.process = subprocess.Popen([path], env={**os.environ, **own, **(environment or {})})
+        self.events = []
+        self.listener = Atspi.EventListener.new(lambda event: self.events.append((event.type, event.source)))
+        self.listener.register("window")
         self.node = wait_until(self._on_bus, "the program on the accessibility bus")
 
     def __enter__(self):
@@ -187,6 +190,12 @@ class Program:
             found = (window.find_now(role, name) for window in reversed(self.windows()))
             return next((control for control in found if control), None)
         return wait_until(look, f"{role} '{name or ''}'")
+
+    def heard(self, window):
+        """The kinds of events with which the window has been announced on the bus."""
+        while GLib.MainContext.default().iteration(False):
+            pass
+        return [kind for kind, source in self.events if source == window.node]
 
     def wait_closed(self, window):
         """Waits until the window, or a control in it, is gone."""
@@ -239,10 +248,6 @@ def is_showing(control):
 def click(control):
     x, y = wait_until(lambda: control.has("SHOWING") and control.middle, f"{control.role} '{control.name}'")
     run("xdotool", "mousemove", x, y, "click", 1)
-
-
-def screen_size():
-    return tuple(int(length) for length in run("xdotool", "getdisplaygeometry").split())
 
 
 def type_text(text):

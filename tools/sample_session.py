@@ -12,8 +12,7 @@ import unicodedata
 
 from gi.repository import GLib
 
-from driver import (PROGRAM, Failure, Program, click, expect, press, run, screen_size,
-                    type_text, wait_until)
+from driver import PROGRAM, Failure, Program, click, expect, press, run, type_text, wait_until
 
 GENERATE = "Get My Palace Lantern Interpretation"
 OPEN = "Click Here To Open Previously Saved Palace Lantern Interpretation"
@@ -67,17 +66,17 @@ def wait_selected(choice, entry):
 
 
 def pick_by_mouse(choice, entry):
-    """Opens the list, turns the wheel until the entry is well in sight, and clicks it."""
+    """Opens the list, turns the wheel until the entry is in sight, and clicks it."""
     click(choice)
-    item = choice.find("list item", entry)
-    _, height = screen_size()
-    margin = 40  # for the arrows at the ends of a long list
+    wait_until(lambda: choice.all("list item"), f"the entries of '{choice.name}'")
+    entries = [item.name for item in choice.children()]
     for _ in range(100):
-        x, y = item.middle
-        if margin < y < height - margin:
+        shown = choice.all("list item")
+        if any(item.name == entry for item in shown):
             break
-        run("xdotool", "mousemove", x, height // 2, "click", 4 if y <= margin else 5)
-    click(item)
+        upwards = entries.index(entry) < entries.index(shown[0].name)
+        run("xdotool", "mousemove", *shown[len(shown) // 2].middle, "click", 4 if upwards else 5)
+    click(choice.find("list item", entry))
     wait_selected(choice, entry)
 
 

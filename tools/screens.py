@@ -1,5 +1,6 @@
 #!/usr/bin/python3
-"""Looks at every window on screens of many sizes and scales, in light and dark, and takes pictures of them all.
+"""Looks at every window on screens of many sizes and scales, and takes pictures of them all: on a light desktop, a
+dark one, and one for weak eyes, of high contrast and with large letters.
 
 Fails if a window is larger than its screen or off it, or if a control lies outside its window and can't be scrolled
 to. What only an eye sees is in the pictures: build/screens/WIDTHxHEIGHT-SCALE-PALETTE-WINDOW.png.
@@ -24,16 +25,24 @@ CHART = "Palace Lantern Chart"
 ANALYSIS = "Palace Lantern Analysis"
 SCROLLED = ("text", "list item", "scroll bar")  # stand in a view of their own
 
-DARK = {"Window": "40,42,46", "View": "28,30,33", "Button": "52,55,60"}
+# The grounds, the letters on them, links, what is selected, and the desktop's font.
+PALETTES = {
+    "light": None,
+    "dark": (("40,42,46", "28,30,33", "52,55,60"), "235,235,235", "120,170,255", ("60,110,200", "255,255,255"), 10),
+    "contrast": (("0,0,0", "0,0,0", "0,0,0"), "255,255,255", "255,255,0", ("0,255,255", "0,0,0"), 15),
+}
 
 
 def desktop(folder, palette):
     """The environment of a desktop whose settings choose the palette."""
-    if palette == "light":
+    if PALETTES[palette] is None:
         return {}
-    sections = [f"[Colors:{part}]\nBackgroundNormal={ground}\nForegroundNormal=235,235,235\n"
-                f"ForegroundInactive=170,170,170\nForegroundLink=120,170,255\n" for part, ground in DARK.items()]
-    sections.append("[Colors:Selection]\nBackgroundNormal=60,110,200\nForegroundNormal=255,255,255\n")
+    grounds, letters, links, (selected, selected_letters), points = PALETTES[palette]
+    sections = [f"[Colors:{part}]\nBackgroundNormal={ground}\nForegroundNormal={letters}\n"
+                f"ForegroundInactive=170,170,170\nForegroundLink={links}\n"
+                for part, ground in zip(("Window", "View", "Button"), grounds)]
+    sections.append(f"[Colors:Selection]\nBackgroundNormal={selected}\nForegroundNormal={selected_letters}\n")
+    sections.append(f"[General]\nfont=DejaVu Sans,{points},-1,5,50,0,0,0,0,0\n")
     (pathlib.Path(folder) / "kdeglobals").write_text("\n".join(sections))
     return {"QT_QPA_PLATFORMTHEME": "kde", "KDE_SESSION_VERSION": "5", "XDG_CONFIG_DIRS": str(folder),
             "KDEDIRS": str(folder)}
@@ -86,6 +95,11 @@ class Tour:
     def go(self):
         find = self.program.find
         self.look("input", self.program.window("Palace Lantern"))
+        years = find("combo box", "Year")
+        years.do("ShowMenu")
+        wait_until(lambda: years.all("list item"), "the years")
+        take_picture(PICTURES / f"{self.label}-years.png", "-window", "root")
+        years.do("ShowMenu")
         find("push button", GENERATE).do("Press")
         message = self.program.message()
         self.look("message", message)
@@ -123,7 +137,7 @@ def everywhere(path):
     good = True
     for size in SIZES:
         for scale in SCALES:
-            for palette in ("light", "dark"):
+            for palette in PALETTES:
                 command = [PROJECT / "tools" / "display.sh", sys.executable, __file__, path, size, str(scale), palette]
                 good &= subprocess.run(command, env={**os.environ, "DISPLAY_SIZE": size}).returncode == 0
     return good

@@ -21,6 +21,7 @@ int main(int argc, char* argv[]) {
     // length.
     QPixmapCache::setCacheLimit(0);
     QApplication::setFont(look::textFont(QApplication::font()));
+    QApplication::setPalette(look::legibleSelection(QApplication::palette()));
     QApplication::setWindowIcon(look::productIcon());
 
     installListAccessibility();

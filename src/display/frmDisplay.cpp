@@ -63,13 +63,15 @@ QFont scaledFont(const ChartScale& scale, LabelStyle style) {
     return look::chartFont(scale.fontPixels(style.pixelSize), style.bold);
 }
 
-// The room that a text needs in a font, line by line.
+// The room that a text needs in a font, line by line. The metrics round up and down apart, which at a small
+// size can make a line a pixel higher than it is.
 QSize textSize(const QFont& font, std::string_view text) {
     const QFontMetrics metrics{font};
     int width = 0;
     const QStringList lines = latin(text).split(QStringLiteral("\r\n"));
     for (const QString& line : lines) width = std::max(width, metrics.horizontalAdvance(line));
-    return {width + 1, metrics.height() + metrics.lineSpacing() * static_cast<int>(lines.size() - 1)};
+    const int lineHeight = std::min(metrics.height(), qRound(QFontMetricsF{font}.height()));
+    return {width + 1, lineHeight + metrics.lineSpacing() * static_cast<int>(lines.size() - 1)};
 }
 
 }  // namespace
@@ -95,7 +97,7 @@ frmDisplay::frmDisplay() {
     lblCaption->setText(QLatin1String{backgroundHint});
     lblCaption->setAlignment(Qt::AlignCenter);
     colour(lblCaption, look::brown);
-    for (QWidget* background : {gfg, Frame1, Frame2}) {
+    for (QWidget* background : std::initializer_list<QWidget*>{gfg, Frame1, Frame2}) {
         background->setMouseTracking(true);
         background->installEventFilter(this);
     }
@@ -124,7 +126,7 @@ void frmDisplay::createMenus() {
     QMenu* mnuFile = menus_->addMenu(tr("&File"));
     mnuFile->setObjectName(QStringLiteral("mnuFile"));
     const auto addEntry = [this, mnuFile](const char* name, const char* words, void (frmDisplay::*wanted)()) {
-        mnuFile->addAction(QString::fromLatin1(words), this, wanted)
+        mnuFile->addAction(QString::fromLatin1(words), this, wanted, Qt::QueuedConnection)
             ->setObjectName(QString::fromLatin1(name));
     };
     addEntry("mnuShowAll", "Show All", &frmDisplay::showAllRequested);
@@ -154,7 +156,9 @@ void frmDisplay::createCells() {
             auto* label = new QLabel{square};
             label->setObjectName(latin(table[i].name) + QStringLiteral("(%1)").arg(cell.value()));
             label->setTextFormat(Qt::PlainText);
-            label->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+            const bool oneLine = table[i].longestText.find('\n') == std::string_view::npos;
+            // What a line can spare is above its letters.
+            label->setAlignment(Qt::AlignLeft | (oneLine ? Qt::AlignBottom : Qt::AlignTop));
             if (table[i].style != CellStyle::minor) colour(label, colourOf(table[i].style));
             labels_[cell.index()][i] = label;
         }
@@ -174,10 +178,6 @@ void frmDisplay::createCells() {
 }
 
 void frmDisplay::createCentre() {
-    QPalette papers;
-    papers.setColor(QPalette::Window, look::titlePaper);
-    Frame2->setPalette(papers);
-    Frame2->setAutoFillBackground(true);
     for (const CentreLabel& place : centreLabels()) {
         QLabel* label = place.style == CentreStyle::name ? new ElidedLabel{Frame2} : new QLabel{Frame2};
         label->setObjectName(latin(place.name));
@@ -189,9 +189,6 @@ void frmDisplay::createCentre() {
                                                             : look::blue);
         centre_.push_back(label);
     }
-    centreRule_ = new QFrame{Frame2};
-    centreRule_->setFrameShape(QFrame::HLine);
-    colour(centreRule_, look::brown);
 }
 
 QLabel* frmDisplay::centreLabel(std::string_view name) const {
@@ -273,7 +270,8 @@ void frmDisplay::applyScale(ChartScale scale) {
     if (scale == scale_ && gfg->size() == scale.chartSize()) return;
     scale_ = scale;
     gfg->resize(scale.chartSize());
-    Frame1->setGeometry({QPoint{scale.margin(), scale.margin()}, scale.squareSize()});
+    Frame1->move(scale.margin(), scale.margin());
+    Frame1->setScale(scale);
     const int hintTop = Frame1->geometry().bottom() + 1 + scale.margin() / 2;
     lblCaption->setGeometry(0, hintTop, gfg->width(), scale.pixels(hintHeight));
     lblCaption->setFont(scaledFont(scale, {11, false}));
@@ -304,9 +302,7 @@ void frmDisplay::placeCells() {
 }
 
 void frmDisplay::placeCentre() {
-    Frame2->setGeometry(scale_.centreFrame().adjusted(1, 1, -1, -1));
-    centreRule_->setGeometry(scale_.pixels(centreRule.left), scale_.pixels(centreRule.top),
-                             scale_.pixels(centreRule.width), std::max(1, scale_.pixels(centreRule.height)));
+    Frame2->setGeometry(scale_.centreFrame());
     const auto table = centreLabels();
     for (std::size_t i = 0; i < table.size(); ++i) {
         centre_[i]->setFont(scaledFont(scale_, styleOf(table[i].style)));

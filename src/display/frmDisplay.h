@@ -13,6 +13,7 @@
 #include "style/help_menu.h"
 
 class CellSquare;
+class ChartSquare;
 class QMenuBar;
 class QScrollArea;
 
@@ -69,15 +70,14 @@ class frmDisplay : public QWidget {
 
     QMenuBar* menus_;
     QScrollArea* scroll_;
-    QWidget* gfg;     // the ground on which all lies
-    QWidget* Frame1;  // the square
-    QWidget* Frame2;  // the centre block
+    QWidget* gfg;         // the ground on which all lies
+    ChartSquare* Frame1;  // the square
+    QWidget* Frame2;      // the centre block
     QLabel* lblCaption;
     std::array<CellSquare*, cellCount> Square{};
     std::array<LblCover*, cellCount> lblCover{};
     std::array<CellLabels, cellCount> labels_{};
     std::array<bool, cellCount> holdsZiWei_{};
     std::vector<QLabel*> centre_;
-    QFrame* centreRule_ = nullptr;
     ChartScale scale_{smallestScale};
 };

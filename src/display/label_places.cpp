@@ -90,7 +90,7 @@ CellIndex neighbour(CellIndex cell, int columnStep, int rowStep) {
 }
 
 ChartScale ChartScale::largestFor(const QSize& room, double devicePixelRatio) {
-    // Ten pixels of the screen, and eight of the desktop's own, are the least for these names.
+    // Ten pixels of the screen, and seven of the desktop's own, are the least for these names.
     const int least =
         std::max(smallestScale.minorPixels(), static_cast<int>(std::ceil(10.0 / devicePixelRatio)));
     int pixels = least;

@@ -85,9 +85,9 @@ std::span<const CentreLabel> centreLabels();
 
 // The line between who and when and the rest.
 struct CentreRule {
-    int left, top, width, height;
+    int left, top, width;
 };
-inline constexpr CentreRule centreRule{1800, 1800, 3600, 15};
+inline constexpr CentreRule centreRule{1800, 1800, 3600};
 
 // Column and row of a cell on the 4 x 4 square, from the top left.
 struct GridPlace {
@@ -142,4 +142,4 @@ class ChartScale {
     int minorPixels_;
 };
 
-inline constexpr ChartScale smallestScale{8};
+inline constexpr ChartScale smallestScale{7};

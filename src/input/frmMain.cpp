@@ -6,6 +6,7 @@
 #include <QGridLayout>
 #include <QLabel>
 #include <QMenuBar>
+#include <QProxyStyle>
 #include <QPushButton>
 #include <QScreen>
 #include <QScrollArea>
@@ -31,6 +32,16 @@ Control* named(Control* control, const char* name) {
     control->setObjectName(QString::fromLatin1(name));
     return control;
 }
+
+// Lets a list drop down below its box and scroll. The desktop's own style may lay all its entries over the
+// box, which for the years is more than a screen holds.
+class DropDownStyle : public QProxyStyle {
+  public:
+    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                  QStyleHintReturn* more) const override {
+        return hint == SH_ComboBox_Popup ? 0 : QProxyStyle::styleHint(hint, option, widget, more);
+    }
+};
 
 // Screen readers call the list by the plain word that stands over it.
 QComboBox* listNamed(const char* name, const char* spokenName) {
@@ -125,6 +136,9 @@ QWidget* frmMain::createDetails() {
     cmbYear = listNamed("cmbYear", "Year");
     cmbHour = listNamed("cmbHour", "Hour");
     cmbMinute = listNamed("cmbMinute", "Minutes");
+    auto* dropDown = new DropDownStyle;
+    dropDown->setParent(this);
+    for (QComboBox* list : {cmbDate, cmbMonth, cmbYear, cmbHour, cmbMinute}) list->setStyle(dropDown);
     connect(txtName, &NameBox::rejected, this, &frmMain::txtName_KeyRejected);
 
     auto* details = new DetailsFrame{tr("Enter your Details")};
@@ -163,7 +177,7 @@ QWidget* frmMain::createButtons() {
     connect(cmExit, &QPushButton::clicked, this, &frmMain::cmExit_Click);
 
     for (QPushButton* button : {cmdGenerateChart, cmdOpen, cmExit}) {
-        button->setMinimumHeight(button->fontMetrics().height() + 14);
+        button->setMinimumSize(button->sizeHint().width() + 24, button->fontMetrics().height() + 14);
     }
 
     auto* buttons = new QWidget;
@@ -179,7 +193,7 @@ void frmMain::createMenus() {
     auto* menus = new QMenuBar{this};
     auto* mnuFile = named(menus->addMenu(tr("&File")), "mnuFile");
     const auto addEntry = [this, mnuFile](const char* name, const char* words, void (frmMain::*handler)()) {
-        named(mnuFile->addAction(QString::fromLatin1(words), this, handler), name);
+        named(mnuFile->addAction(QString::fromLatin1(words), this, handler, Qt::QueuedConnection), name);
     };
     addEntry("mnuGenerateChart", "Get My &Palace Lantern Chart", &frmMain::cmdGenerateChart_Click);
     // The name's spelling is the system's own.

@@ -26,15 +26,13 @@ class ListEntry : public QAccessibleInterface, public QAccessibleActionInterface
         return kind == QAccessible::Name ? list_->itemText(index_) : QString{};
     }
     QRect rect() const override {
-        const QAbstractItemView* view = list_->view();
-        const QRect place = view->visualRect(view->model()->index(index_, 0));
-        return view->isVisible() ? place.translated(view->viewport()->mapToGlobal(QPoint{})) : QRect{};
+        return isInSight() ? place().translated(list_->view()->viewport()->mapToGlobal(QPoint{})) : QRect{};
     }
     QAccessible::State state() const override {
         QAccessible::State state;
         state.selectable = true;
         state.selected = list_->currentIndex() == index_;
-        state.offscreen = !list_->view()->isVisible();
+        state.offscreen = !isInSight();
         return state;
     }
 
@@ -51,6 +49,16 @@ class ListEntry : public QAccessibleInterface, public QAccessibleActionInterface
     }
 
   private:
+    // In the view that drops down.
+    QRect place() const {
+        const QAbstractItemView* view = list_->view();
+        return view->visualRect(view->model()->index(index_, 0));
+    }
+    bool isInSight() const {
+        const QAbstractItemView* view = list_->view();
+        return view->isVisible() && view->viewport()->rect().contains(place().center());
+    }
+
     QComboBox* list_;
     int index_;
 };

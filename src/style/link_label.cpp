@@ -17,7 +17,10 @@ class LinkInterface : public QAccessibleWidget {
     QStringList actionNames() const override { return {pressAction(), setFocusAction()}; }
     void doAction(const QString& action) override {
         auto* link = static_cast<LinkLabel*>(widget());
-        action == pressAction() ? emit link->clicked() : link->setFocus();
+        if (action == setFocusAction()) link->setFocus();
+        // Later, so that who asks over the bus is answered before the page opens.
+        if (action == pressAction())
+            QMetaObject::invokeMethod(link, &LinkLabel::clicked, Qt::QueuedConnection);
     }
 };
 

@@ -2,6 +2,8 @@
 
 #include <QFontDatabase>
 #include <QIcon>
+#include <algorithm>
+#include <cmath>
 
 namespace look {
 
@@ -13,6 +15,22 @@ QStringList faces() {
     static const QStringList families{QFontDatabase::hasFamily(verdana) ? verdana
                                                                         : QStringLiteral("DejaVu Sans")};
     return families;
+}
+
+constexpr double legible = 4.5;
+
+// As the accessibility guidelines for the web (WCAG) reckon it: 0 is black and 1 is white.
+double luminance(const QColor& colour) {
+    const auto part = [](double value) {
+        return value <= 0.04045 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * part(colour.redF()) + 0.7152 * part(colour.greenF()) + 0.0722 * part(colour.blueF());
+}
+
+QColor mixed(const QColor& colour, const QColor& other, float share) {
+    const auto part = [share](float value, float otherValue) { return value + share * (otherValue - value); };
+    return QColor::fromRgbF(part(colour.redF(), other.redF()), part(colour.greenF(), other.greenF()),
+                            part(colour.blueF(), other.blueF()));
 }
 
 }  // namespace
@@ -33,12 +51,29 @@ QFont chartFont(int pixelSize, bool bold) {
     return font;
 }
 
+double contrast(const QColor& one, const QColor& other) {
+    const auto [darker, lighter] = std::minmax({luminance(one), luminance(other)});
+    return (lighter + 0.05) / (darker + 0.05);
+}
+
 QColor linkColour(const QWidget& on) {
     const QPalette& palette = on.palette();
-    const bool darkGround = palette.color(QPalette::Window).lightnessF() < 0.5F;
-    if (!darkGround) return blue;
-    const QColor link = palette.color(QPalette::Link);
-    return link.lightnessF() > 0.6F ? link : palette.color(QPalette::WindowText);
+    const QColor behind = palette.color(QPalette::Window);
+    for (const QColor& colour : {blue, palette.color(QPalette::Link)}) {
+        if (contrast(colour, behind) >= legible) return colour;
+    }
+    return palette.color(QPalette::WindowText);
+}
+
+QPalette legibleSelection(const QPalette& desktop) {
+    const QColor letters = desktop.color(QPalette::HighlightedText);
+    QColor behind = desktop.color(QPalette::Highlight);
+    const QColor& goal = luminance(letters) > 0.18 ? QColorConstants::Black : QColorConstants::White;
+    for (int step = 0; step < 20 && contrast(behind, letters) < legible; ++step)
+        behind = mixed(behind, goal, 0.05F);
+    QPalette palette;
+    palette.setColor(QPalette::Highlight, behind);
+    return palette;
 }
 
 QString productName() { return QStringLiteral("Palace Lantern"); }

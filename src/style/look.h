@@ -3,6 +3,7 @@
 
 #include <QColor>
 #include <QFont>
+#include <QPalette>
 #include <QString>
 #include <QWidget>
 
@@ -29,7 +30,16 @@ QFont textFont(const QFont& like);
 // The same at a size in pixels, for text that is drawn to the chart's scale.
 QFont chartFont(int pixelSize, bool bold);
 
-// Marks text that opens a page: the blue of the headings, or on a dark ground the desktop's own link colour.
+// How well one colour can be read on the other, from 1 to 21, as the accessibility guidelines for the web
+// (WCAG) reckon it.
+double contrast(const QColor& one, const QColor& other);
+
+// The desktop's palette with what is selected set off so far from its letters that they can be read: some
+// desktops put white on a light blue.
+QPalette legibleSelection(const QPalette& desktop);
+
+// Marks text that opens a page: the blue of the headings, or where that can't be read on the ground, the
+// desktop's own link colour.
 QColor linkColour(const QWidget& on);
 
 // The product's name and its mark.

@@ -6,6 +6,7 @@ void showMessage(QWidget* parent, QMessageBox::Icon icon, const QString& text, c
     QMessageBox box{icon, title.isEmpty() ? look::productName() : title, QString{}, QMessageBox::Ok, parent};
     box.setTextFormat(Qt::PlainText);
     box.setText(text);
+    box.setAccessibleDescription(text);  // which is what a screen reader announces of a message
     box.setWindowModality(Qt::ApplicationModal);
     box.setEscapeButton(QMessageBox::Ok);
     box.exec();

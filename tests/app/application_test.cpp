@@ -11,6 +11,7 @@ namespace {
 
 void trigger(const char* window, const char* entry) {
     find(QLatin1String{window})->findChild<QAction*>(QLatin1String{entry})->trigger();
+    QCoreApplication::processEvents();
 }
 
 TEST_F(Program, PlacesTheButtonsFromTheScreensRightEdge) {

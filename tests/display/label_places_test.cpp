@@ -3,11 +3,11 @@
 #include "display/label_places.h"
 
 #include <QMenuBar>
-#include <cmath>
 #include <map>
 
 #include "display/frmDisplay.h"
 #include "form_driver.h"
+#include "style/look.h"
 
 namespace {
 
@@ -55,7 +55,8 @@ QRect placeOf(const QLabel& label, int scale) {
     const QFontMetrics metrics{label.font()};
     for (const QString& text : textsOf(label)) {
         const QStringList lines = text.split("\n"_q);
-        QSize needed{0, metrics.height() + metrics.lineSpacing() * static_cast<int>(lines.size() - 1)};
+        const int lineHeight = std::min(metrics.height(), qRound(QFontMetricsF{label.font()}.height()));
+        QSize needed{0, lineHeight + metrics.lineSpacing() * static_cast<int>(lines.size() - 1)};
         for (const QString& line : lines) {
             needed.setWidth(std::max(needed.width(), metrics.horizontalAdvance(line)));
         }
@@ -104,13 +105,6 @@ TEST_F(Labels, StandWhereTheyAreStatedTo) {
     }
 }
 
-double luminance(const QColor& colour) {
-    const auto part = [](double value) {
-        return value <= 0.04045 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
-    };
-    return 0.2126 * part(colour.redF()) + 0.7152 * part(colour.greenF()) + 0.0722 * part(colour.blueF());
-}
-
 TEST_F(Labels, CanBeReadOnALightChartEvenOnADarkDesktop) {
     const QPalette before = QApplication::palette();
     QApplication::setPalette(QPalette{QColor{40, 40, 40}});
@@ -121,15 +115,31 @@ TEST_F(Labels, CanBeReadOnALightChartEvenOnADarkDesktop) {
         if (label->text().isEmpty() || !label->isVisible()) continue;
         ++count;
         const QImage ground = label->parentWidget()->grab().toImage();
-        const double paper = luminance(ground.pixelColor(2, ground.height() / 2));  // left of all text
-        const double ink = luminance(label->palette().color(label->foregroundRole()));
-        EXPECT_GE((paper + 0.05) / (ink + 0.05), 4.5) << label->objectName().toStdString();
+        const QColor paper = ground.pixelColor(2, ground.height() / 2);  // left of all text
+        const QColor ink = label->palette().color(label->foregroundRole());
+        EXPECT_GE(look::contrast(paper, ink), 4.5) << label->objectName().toStdString();
     }
     EXPECT_GT(count, 100);
     const QColor blue = label("lblTianFu")->palette().color(QPalette::WindowText);
     const QColor green = label("lblMajorStars")->palette().color(QPalette::WindowText);
     EXPECT_TRUE(blue.blue() > 2 * blue.green() && green.green() > 2 * green.blue());
     QApplication::setPalette(before);
+}
+
+TEST(Look, MakesWhatIsSelectedLegible) {
+    EXPECT_NEAR(look::contrast(QColor{0x76, 0x76, 0x76}, Qt::white), 4.54, 0.01);
+    const std::pair<QColor, QColor> selections[]{{{53, 132, 228}, Qt::white},
+                                                 {{0, 60, 160}, Qt::black},
+                                                 {Qt::cyan, Qt::black},
+                                                 {Qt::white, Qt::white}};
+    for (const auto& [ground, letters] : selections) {
+        QPalette desktop;
+        desktop.setColor(QPalette::Highlight, ground);
+        desktop.setColor(QPalette::HighlightedText, letters);
+        const QColor mended = look::legibleSelection(desktop).color(QPalette::Highlight);
+        EXPECT_GE(look::contrast(mended, letters), 4.5) << ground.name().toStdString();
+        EXPECT_EQ(mended == ground, ground == Qt::cyan) << "only that one is legible as it is";
+    }
 }
 
 }  // namespace
