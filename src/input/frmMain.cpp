@@ -6,7 +6,6 @@
 #include <QGridLayout>
 #include <QLabel>
 #include <QMenuBar>
-#include <QProxyStyle>
 #include <QPushButton>
 #include <QScreen>
 #include <QScrollArea>
@@ -16,6 +15,7 @@
 #include "files/file_dialogs.h"
 #include "input/birth_lists.h"
 #include "input/details_frame.h"
+#include "input/drop_down_list.h"
 #include "input/name_box.h"
 #include "style/link_label.h"
 #include "style/look.h"
@@ -33,21 +33,10 @@ Control* named(Control* control, const char* name) {
     return control;
 }
 
-// Lets a list drop down below its box and scroll. The desktop's own style may lay all its entries over the
-// box, which for the years is more than a screen holds.
-class DropDownStyle : public QProxyStyle {
-  public:
-    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
-                  QStyleHintReturn* more) const override {
-        return hint == SH_ComboBox_Popup ? 0 : QProxyStyle::styleHint(hint, option, widget, more);
-    }
-};
-
 // Screen readers call the list by the plain word that stands over it.
-QComboBox* listNamed(const char* name, const char* spokenName) {
-    auto* list = named(new QComboBox, name);
+QComboBox* listNamed(const char* name, const char* spokenName, const char* widestEntry) {
+    auto* list = named(new DropDownList{QString::fromLatin1(widestEntry)}, name);
     list->setAccessibleName(QString::fromLatin1(spokenName));
-    list->setMaxVisibleItems(16);
     return list;
 }
 
@@ -131,14 +120,11 @@ QWidget* frmMain::createBanner() {
 QWidget* frmMain::createDetails() {
     txtName = named(new NameBox, "txtName");
     txtName->setAccessibleName(tr("Name"));
-    cmbDate = listNamed("cmbDate", "Date");
-    cmbMonth = listNamed("cmbMonth", "Month");
-    cmbYear = listNamed("cmbYear", "Year");
-    cmbHour = listNamed("cmbHour", "Hour");
-    cmbMinute = listNamed("cmbMinute", "Minutes");
-    auto* dropDown = new DropDownStyle;
-    dropDown->setParent(this);
-    for (QComboBox* list : {cmbDate, cmbMonth, cmbYear, cmbHour, cmbMinute}) list->setStyle(dropDown);
+    cmbDate = listNamed("cmbDate", "Date", "30");
+    cmbMonth = listNamed("cmbMonth", "Month", "September");
+    cmbYear = listNamed("cmbYear", "Year", "2000");
+    cmbHour = listNamed("cmbHour", "Hour", "20");
+    cmbMinute = listNamed("cmbMinute", "Minutes", "50");
     connect(txtName, &NameBox::rejected, this, &frmMain::txtName_KeyRejected);
 
     auto* details = new DetailsFrame{tr("Enter your Details")};
@@ -169,15 +155,12 @@ QWidget* frmMain::createButtons() {
     cmdOpen = named(new QPushButton{tr("Click Here To Open Previously Saved Palace Lantern Interpretation")},
                     "cmdOpen");
     cmExit = named(new QPushButton{tr("&Exit")}, "cmExit");
-    QFont strong = cmdGenerateChart->font();
-    strong.setBold(true);
-    cmdGenerateChart->setFont(strong);
     connect(cmdGenerateChart, &QPushButton::clicked, this, &frmMain::cmdGenerateChart_Click);
     connect(cmdOpen, &QPushButton::clicked, this, &frmMain::cmdOpen_Click);
     connect(cmExit, &QPushButton::clicked, this, &frmMain::cmExit_Click);
 
     for (QPushButton* button : {cmdGenerateChart, cmdOpen, cmExit}) {
-        button->setMinimumSize(button->sizeHint().width() + 24, button->fontMetrics().height() + 14);
+        button->setMinimumHeight(button->fontMetrics().height() + 14);
     }
 
     auto* buttons = new QWidget;
@@ -288,10 +271,10 @@ void frmMain::reject() {}
 void frmMain::fitToScreen() {
     const QRect available = screen()->availableGeometry();
     const QSize room = available.size() - QSize{16, 40};
-    // A little more than needed: at fractional scales, windows are rounded to whole dots of the screen.
-    constexpr QSize rounding{2, 2};
-    QSize size =
-        scroll_->widget()->sizeHint() + QSize{0, layout()->menuBar()->sizeHint().height()} + rounding;
+    // A little more than needed: the longest button gets room round its words, and at fractional scales,
+    // windows are rounded to whole dots of the screen.
+    constexpr QSize spare{24, 2};
+    QSize size = scroll_->widget()->sizeHint() + QSize{0, layout()->menuBar()->sizeHint().height()} + spare;
     if (size.height() > room.height()) size.rwidth() += scroll_->verticalScrollBar()->sizeHint().width();
     size = size.boundedTo(room);
     resize(size);

@@ -38,7 +38,7 @@ Jpeg compress(const Bitmap& bitmap, int quality) {
     const int flags = TJFLAG_ACCURATEDCT | (bitmap.bottomUp ? TJFLAG_BOTTOMUP : 0);
     unsigned char* bytes = nullptr;
     const int result =
-        tjCompress2(compressor.get(), bitmap.pixels.data(), bitmap.width, bitmap.rowBytes, bitmap.height,
+        tjCompress2(compressor.get(), bitmap.pixels.get(), bitmap.width, bitmap.rowBytes, bitmap.height,
                     bitmap.format, &bytes, &jpeg.size, TJSAMP_444, std::clamp(quality, 1, 100), flags);
     jpeg.bytes.reset(bytes);
     if (result != 0) jpeg = {};

@@ -131,6 +131,11 @@ std::optional<TJPF> pixelFormat(int fd, const Header& header) {
     return std::nullopt;
 }
 
+// Memory that is about to be filled, which for a whole screen's pixels is not worth clearing before.
+std::unique_ptr<unsigned char[]> uncleared(std::size_t size) {
+    return std::make_unique_for_overwrite<unsigned char[]>(size);
+}
+
 // Replaces palette indices by the colours they stand for; false if one points past the palette.
 bool expandPalette(int fd, const Header& header, Bitmap& bitmap) {
     std::array<unsigned char, std::size_t{4} * 256> palette{};
@@ -139,10 +144,10 @@ bool expandPalette(int fd, const Header& header, Bitmap& bitmap) {
     }
     const auto width = static_cast<std::size_t>(header.width);
     const auto rowBytes = static_cast<std::size_t>(header.rowBytes());
-    std::vector<unsigned char> pixels(3 * width * static_cast<std::size_t>(header.height));
-    auto out = pixels.begin();
-    for (std::size_t row = 0; row < bitmap.pixels.size(); row += rowBytes) {
-        for (const unsigned char index : Bytes(bitmap.pixels).subspan(row, width)) {
+    auto pixels = uncleared(3 * width * static_cast<std::size_t>(header.height));
+    auto* out = pixels.get();
+    for (std::size_t row = 0; row < header.pixelBytes(); row += rowBytes) {
+        for (const unsigned char index : Bytes(bitmap.pixels.get() + row, width)) {
             if (index >= header.colours) {
                 return false;
             }
@@ -168,8 +173,8 @@ std::optional<Bitmap> readPixels(int fd, const Header& header) {
         }
         bitmap.format = *format;
     }
-    bitmap.pixels = std::vector<unsigned char>(header.pixelBytes());
-    if (!readAt(fd, header.pixelOffset, bitmap.pixels) ||
+    bitmap.pixels = uncleared(header.pixelBytes());
+    if (!readAt(fd, header.pixelOffset, {bitmap.pixels.get(), header.pixelBytes()}) ||
         (header.bits == 8 && !expandPalette(fd, header, bitmap))) {
         return std::nullopt;
     }

@@ -5,8 +5,8 @@
 
 #include <turbojpeg.h>
 
+#include <memory>
 #include <optional>
-#include <vector>
 
 namespace bmp2jpeg {
 
@@ -16,7 +16,7 @@ struct Bitmap {
     int rowBytes;
     bool bottomUp;
     TJPF format;
-    std::vector<unsigned char> pixels;
+    std::unique_ptr<unsigned char[]> pixels;  // height rows of rowBytes each
 };
 
 // Gives nothing if the file cannot be read, is not a regular file, is damaged or is of another kind.
