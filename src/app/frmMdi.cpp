@@ -154,6 +154,8 @@ void frmMdi::placeChart() {
 void frmMdi::resizeEvent(QResizeEvent* event) {
     QMainWindow::resizeEvent(event);
     placeStrip();
+    // At once, or what the strip gives to the chart or takes from it is painted twice.
+    centralWidget()->layout()->activate();
 }
 
 // Closing the chart window by its title bar is Exit, as closing the frame is.
