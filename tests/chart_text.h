@@ -80,7 +80,7 @@ struct HandChart {
 };
 
 // clang-format off
-inline const std::array<HandChart, 3> handCharts{{
+inline const std::array<HandChart, 2> handCharts{{
     {birth("5.3.1985"), "1 5 7 Wood Yi",
      {"Health, Wu, Zi Wei/Yin, Tian Fu, Tian Gui, Yin Sha, Qing Yang, Hua ke",
       "Wealth, Ji, Mao, TianFu=Tai Yin, Wen Chang, Lu Cun, Hua Ji",
@@ -107,18 +107,5 @@ inline const std::array<HandChart, 3> handCharts{{
       "Children, Xin, Zi Wei/Hai, TianFu=Qi Sha, Di Jie, Di Kong, Lu Cun, Hua Quan",
       "Marriage, Ren, Zi, Tuo Luo",
       "Siblings, Gui, Chou, Tian Yao"}},
-    {birth("24.12.2003", 21, 0), "12 1 9 Water Gui",
-     {"Siblings, Jia, Yin, WenQi=Wen Qu, San Tai, Tian Yue",
-      "Life Palace, Water/Yi, Mao, Tian Fu, Zuo Fu, Tian Kui",
-      "Parents, Bing, Chen, TianFu=Tai Yin, Tai Fu, Yin Sha, Hua ke",
-      "Fortune, Ding, Si, MajorStars=Lian Zhen, TianFu=Tan Lang, TianYueTwo=Tian Yue, Hua Ji, TianFutwo=Tian Fu",
-      "Property, Wu, Wu, TianFu=Ju Men, Jie Shen, Hua Quan, Tian Guan",
-      "Career, Ji, Wei, TianFu=Tian Xiang",
-      "Friends, Geng, Shen, MajorStars=Tian Tong, TianFu=Tian Liang, Tian Xing",
-      "Travel, Xin, You, MajorStars=Wu Qu, TianFu=Qi Sha, Di Jie",
-      "Health, Ren, Xu, MajorStars=Tai Yang, En Guang",
-      "Wealth, Gui, Hai, Body=* Body, You Bi, Tian Wu, Qing Yang",
-      "Children, Jia, Zi, MajorStars=Tian Ji, Wen Chang, Feng Gao, Tian Yao, Ba Zuo, Tian Gui, Lu Cun",
-      "Marriage, Yi, Zi Wei/Chou, TianFu=Po Jun, Di Kong, Tuo Luo, Hua Lu"}},
 }};
 // clang-format on

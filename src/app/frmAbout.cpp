@@ -39,6 +39,8 @@ frmAbout::frmAbout(QWidget* parent) : QDialog(parent) {
     connect(cmdOk, &QPushButton::clicked, this, &QDialog::accept);
 
     auto* grid = new QGridLayout{this};
+    // As large as its words, also where that is more of the screen than the toolkit would give to a dialog.
+    grid->setSizeConstraint(QLayout::SetFixedSize);
     grid->setContentsMargins(18, 18, 18, 14);
     grid->setHorizontalSpacing(16);
     grid->addWidget(mark, 0, 0, 3, 1, Qt::AlignTop);

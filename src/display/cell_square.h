@@ -19,7 +19,7 @@ class ChartSquare : public QWidget {
     void paintEvent(QPaintEvent* event) override;
 
   private:
-    ChartScale scale_{smallestScale};
+    ChartScale scale_{naturalScale};
 };
 
 class CellSquare : public QWidget {

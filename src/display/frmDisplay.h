@@ -79,5 +79,5 @@ class frmDisplay : public QWidget {
     std::array<CellLabels, cellCount> labels_{};
     std::array<bool, cellCount> holdsZiWei_{};
     std::vector<QLabel*> centre_;
-    ChartScale scale_{smallestScale};
+    ChartScale scale_{naturalScale};
 };

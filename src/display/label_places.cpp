@@ -7,8 +7,10 @@
 
 namespace {
 
-constexpr int naturalMinorPixels = styleOf(CellStyle::minor).pixelSize;
 constexpr int largestMinorPixels = 60;
+constexpr int smallestMinorPixels = 6;
+constexpr int scrolledMinorPixels = 7;  // a chart that scrolls in any case need not be as small as can be
+constexpr double smallestLegibleDots = 10;
 
 // The left side of a cell holds what a cell is: branch, stem, major stars, palace. The rest of it holds the
 // minor stars in three columns of ten rows, and at the foot, in a block of their own, the transformations.
@@ -90,23 +92,22 @@ CellIndex neighbour(CellIndex cell, int columnStep, int rowStep) {
 }
 
 ChartScale ChartScale::largestFor(const QSize& room, double devicePixelRatio) {
-    // Ten pixels of the screen, and seven of the desktop's own, are the least for these names.
-    const int least =
-        std::max(smallestScale.minorPixels(), static_cast<int>(std::ceil(10.0 / devicePixelRatio)));
-    int pixels = least;
-    while (pixels < largestMinorPixels) {
-        const QSize next = ChartScale{pixels + 1}.chartSize();
-        if (next.width() > room.width() || next.height() > room.height()) break;
-        ++pixels;
+    const int legible = static_cast<int>(std::ceil(smallestLegibleDots / devicePixelRatio));
+    for (int pixels = largestMinorPixels; pixels >= std::max(legible, smallestMinorPixels); --pixels) {
+        const QSize size = ChartScale{pixels}.chartSize();
+        if (size.width() <= room.width() && size.height() <= room.height()) return ChartScale{pixels};
     }
-    return ChartScale{pixels};
+    return ChartScale{std::max(legible, scrolledMinorPixels)};
 }
 
 int ChartScale::pixels(int twips) const {
-    return static_cast<int>(std::ceil(twips * minorPixels_ / (look::twipsPerPixel * naturalMinorPixels)));
+    return static_cast<int>(
+        std::ceil(twips * minorPixels_ / (look::twipsPerPixel * naturalScale.minorPixels())));
 }
 
-int ChartScale::fontPixels(int pixelSize) const { return pixelSize * minorPixels_ / naturalMinorPixels; }
+int ChartScale::fontPixels(int pixelSize) const {
+    return pixelSize * minorPixels_ / naturalScale.minorPixels();
+}
 
 QRect ChartScale::cellFrame(CellIndex cell) const {
     const GridPlace place = gridPlace(cell);

@@ -123,8 +123,8 @@ class ChartScale {
   public:
     explicit constexpr ChartScale(int minorPixels) : minorPixels_(minorPixels) {}
 
-    // The largest scale at which a chart with its hint line goes into the room; never one at which the text
-    // is too small to be read on a screen of this pixel ratio.
+    // The largest scale at which a chart with its hint line goes into the room, or one at which it scrolls;
+    // never one at which the text is too small to be read on a screen of this pixel ratio.
     static ChartScale largestFor(const QSize& room, double devicePixelRatio);
 
     constexpr int minorPixels() const { return minorPixels_; }
@@ -142,4 +142,4 @@ class ChartScale {
     int minorPixels_;
 };
 
-inline constexpr ChartScale smallestScale{7};
+inline constexpr ChartScale naturalScale{styleOf(CellStyle::minor).pixelSize};

@@ -1,5 +1,6 @@
 #include "input/drop_down_list.h"
 
+#include <QAbstractItemView>
 #include <QProxyStyle>
 #include <QStyleOptionComboBox>
 
@@ -34,6 +35,7 @@ void DropDownList::showPopup() {
         style_ = new DropDownStyle;
         style_->setParent(this);
         setStyle(style_);
+        view()->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);  // the other style had none
     }
     QComboBox::showPopup();
 }

@@ -4,7 +4,6 @@
 #include <QMdiSubWindow>
 #include <QScreen>
 
-#include "app/strip_places.h"
 #include "form_driver.h"
 
 namespace {
@@ -15,8 +14,6 @@ void trigger(const char* window, const char* entry) {
 }
 
 TEST_F(Program, PlacesTheButtonsFromTheScreensRightEdge) {
-    EXPECT_EQ(stripPlaces(15360, 1215), (StripPlaces{9865, 11245, 12645, 14025}));
-    EXPECT_EQ(centredLeft(15360, 1360), 7000);
     showChart();
     const int right = find("frmMdi"_q)->screen()->size().width();
     for (const auto& [name, fromRight] :

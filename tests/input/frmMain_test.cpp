@@ -72,12 +72,11 @@ TEST_F(InputForm, LetsOnlyLettersAndBlanksBeTyped) {
     const QStringList messages = messagesOf([this] {
         press(Qt::Key_Home);
         EXPECT_EQ(press(Qt::Key_Delete), "ZAZ ONEIL"_q);
-        press(Qt::Key_End);
-        EXPECT_EQ(press(Qt::Key_Left), press(Qt::Key_Escape));
-        EXPECT_EQ(press(Qt::Key_Backspace), "ZAZ ONEL"_q);
+        press(Qt::Key_Right);
+        EXPECT_EQ(press(Qt::Key_Backspace), "AZ ONEIL"_q);
         press(Qt::Key_A, Qt::ControlModifier);
         EXPECT_EQ(press(Qt::Key_X, Qt::ControlModifier), ""_q);
-        EXPECT_EQ(press(Qt::Key_V, Qt::ControlModifier), "ZAZ ONEL"_q);
+        EXPECT_EQ(press(Qt::Key_V, Qt::ControlModifier), "AZ ONEIL"_q);
     });
     EXPECT_EQ(messages, QStringList{});
 }

@@ -42,7 +42,7 @@ std::string analysis(const ChartModel& chart, int cell) { return marked(composeP
 
 TEST(Composer, WritesPalaceBodyAndStarsInTheirOrder) {
     const ChartModel first = cast(handCharts[0].entry), second = cast(handCharts[1].entry);
-    const ChartModel third = cast(handCharts[2].entry);
+    const ChartModel third = cast(birth("24.12.2003", 21, 0));
     EXPECT_EQ(marked({introRun()}), "<black>" + std::string{introText} + end);
     EXPECT_EQ(analysis(first, 0), palacePart(5) + starPart(0, 5) + starPart(6, 5)) << "Zi Wei with Tian Fu";
     EXPECT_EQ(analysis(first, 4), palacePart(1) + starPart(5, 1)) << "Tian Xiang has no text";

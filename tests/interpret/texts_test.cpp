@@ -55,21 +55,14 @@ TEST(Texts, KeepTheirMeasure) {
     }
 }
 
-// The first six words, the names of the star and of the palaces aside.
-std::string opening(std::string_view text, std::string_view starHeading) {
-    const std::set<std::string> palaces{"life",     "siblings", "marriage", "children", "wealth",
-                                        "money",    "health",   "travel",   "friends",  "career",
-                                        "property", "fortune",  "karma",    "parents",  "parents'"};
+// The first six words, the star's name aside.
+std::string opening(std::string text, std::string_view starHeading) {
     const std::string star{starHeading.substr(0, starHeading.find(" Star"))};
-    std::string rest{text}, words;
-    for (auto at = rest.find(star); at != rest.npos; at = rest.find(star)) rest.erase(at, star.size());
-    std::istringstream all{rest};
+    for (auto at = text.find(star); at != text.npos; at = text.find(star)) text.erase(at, star.size());
+    std::istringstream all{text};
+    std::string words;
     int count = 0;
-    for (std::string word; count < 6 && all >> word;) {
-        if (palaces.contains(word)) continue;
-        words += word + ' ';
-        ++count;
-    }
+    for (std::string word; count < 6 && all >> word; ++count) words += word + ' ';
     return words;
 }
 
@@ -77,7 +70,7 @@ TEST(Texts, DoNotOpenAlike) {
     std::map<std::string, std::set<std::string_view>> openings;
     for (std::size_t star = 0; star < starTextCount; ++star) {
         for (const auto& text : starInPalaceTexts[star])
-            openings[opening(text, starTexts[star].heading)].insert(text);
+            openings[opening(std::string{text}, starTexts[star].heading)].insert(text);
     }
     for (const auto& [words, texts] : openings) EXPECT_LE(texts.size(), 2U) << words;
 }
