@@ -63,15 +63,16 @@ QFont scaledFont(const ChartScale& scale, LabelStyle style) {
     return look::chartFont(scale.fontPixels(style.pixelSize), style.bold);
 }
 
-// The room that a text needs in a font, line by line. The metrics round up and down apart, which at a small
-// size can make a line a pixel higher than it is.
+// The room that a text needs in a font. Lines that follow one another are each rounded up to whole pixels; a
+// line by itself is not, so that it stays clear of the label below it.
 QSize textSize(const QFont& font, std::string_view text) {
-    const QFontMetrics metrics{font};
-    int width = 0;
+    const QFontMetricsF metrics{font};
     const QStringList lines = latin(text).split(QStringLiteral("\r\n"));
+    double width = 0;
     for (const QString& line : lines) width = std::max(width, metrics.horizontalAdvance(line));
-    const int lineHeight = std::min(metrics.height(), qRound(QFontMetricsF{font}.height()));
-    return {width + 1, lineHeight + metrics.lineSpacing() * static_cast<int>(lines.size() - 1)};
+    const int single = std::min(QFontMetrics{font}.height(), qRound(metrics.height()));
+    const int height = lines.size() == 1 ? single : static_cast<int>(lines.size()) * qCeil(metrics.height());
+    return {qCeil(width) + 1, height};
 }
 
 }  // namespace
