@@ -34,8 +34,8 @@ QFont chartFont(int pixelSize, bool bold);
 // (WCAG) reckon it.
 double contrast(const QColor& one, const QColor& other);
 
-// The desktop's palette with what is selected set off so far from its letters that they can be read: some
-// desktops put white on a light blue.
+// To be laid over the desktop's palette: a ground for what is selected on which the desktop's letters for it
+// can be read. Some desktops put white on a light blue.
 QPalette legibleSelection(const QPalette& desktop);
 
 // Marks text that opens a page: the blue of the headings, or where that can't be read on the ground, the
