@@ -64,5 +64,6 @@ void LblCover::paintEvent(QPaintEvent*) {
     if (hovered) painter.fillRect(rect().adjusted(1, 1, -1, -1), QColor{13, 36, 166, 14});
     if (!hasFocus()) return;
     painter.setPen(QPen{look::blue, 2});
-    painter.drawRect(rect().adjusted(2, 2, -2, -2));
+    painter.drawRect(
+        rect().adjusted(1, 1, -1, -1));  // clear of the letters, which begin right below the edge
 }
