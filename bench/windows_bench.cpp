@@ -328,6 +328,7 @@ int main(int argc, char* argv[]) {
         QApplication toolkit{argc, argv};
         QApplication::setQuitOnLastWindowClosed(false);
         QApplication::setFont(look::textFont(QApplication::font()));
+        QApplication::setPalette(look::legibleSelection(QApplication::palette()));
         QApplication::setWindowIcon(look::productIcon());
         Windows{}.bench();
     } catch (const std::exception& failure) {

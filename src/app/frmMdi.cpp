@@ -118,11 +118,7 @@ void frmMdi::hostChart(QWidget* chart, std::function<QSize(QSize)> fit) {
     chartWindow_ = area_->addSubWindow(chart, Qt::SubWindow | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
                                                   Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint);
     chartWindow_->setAttribute(Qt::WA_DeleteOnClose, false);
-    // The toolkit writes the title in white on the desktop's colour of what is selected, whatever that is.
-    QPalette title;
-    title.setColor(QPalette::Highlight, look::blue);
-    title.setColor(QPalette::HighlightedText, Qt::white);
-    chartWindow_->setPalette(title);
+    chartWindow_->setPalette(look::legibleTitle(palette()));
     chartWindow_->setWindowIcon(windowIcon());
     chartWindow_->installEventFilter(this);
     area_->viewport()->installEventFilter(this);

@@ -34,9 +34,13 @@ QFont chartFont(int pixelSize, bool bold);
 // (WCAG) reckon it.
 double contrast(const QColor& one, const QColor& other);
 
-// To be laid over the desktop's palette: a ground for what is selected on which the desktop's letters for it
-// can be read. Some desktops put white on a light blue.
+// To be laid over the desktop's palette: colours for what is selected that can be read, the desktop's own if
+// they can. Some desktops put white on a light blue.
 QPalette legibleSelection(const QPalette& desktop);
+
+// The same for a window within a window, whose title the toolkit writes in white on the colour of what is
+// selected, whatever that is; nothing where white can be read on it.
+QPalette legibleTitle(const QPalette& desktop);
 
 // Marks text that opens a page: the blue of the headings, or where that can't be read on the ground, the
 // desktop's own link colour.

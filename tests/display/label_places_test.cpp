@@ -149,9 +149,13 @@ TEST(Look, MakesWhatIsSelectedLegible) {
         QPalette desktop;
         desktop.setColor(QPalette::Highlight, ground);
         desktop.setColor(QPalette::HighlightedText, letters);
-        const QColor mended = look::legibleSelection(desktop).color(QPalette::Highlight);
-        EXPECT_GE(look::contrast(mended, letters), 4.5) << ground.name().toStdString();
-        EXPECT_EQ(mended == ground, ground == Qt::cyan) << "only that one is legible as it is";
+        for (const QColor& base : {QColor{Qt::white}, QColor{Qt::black}}) {
+            desktop.setColor(QPalette::Base, base);
+            const QPalette mended = look::legibleSelection(desktop);
+            const QColor behind = mended.color(QPalette::Highlight);
+            EXPECT_GE(look::contrast(behind, mended.color(QPalette::HighlightedText)), 4.5);
+            EXPECT_EQ(behind == ground, ground == Qt::cyan) << "only that one is legible as it is";
+        }
     }
 }
 
