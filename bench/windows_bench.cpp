@@ -38,7 +38,7 @@
 
 namespace {
 
-constexpr int runs = 21;
+constexpr int runs = 41;
 constexpr int quietMilliseconds = 60;
 
 using Samples = std::vector<double>;

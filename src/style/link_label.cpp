@@ -35,7 +35,6 @@ void installLinkAccessibility() { QAccessible::installFactory(createInterface); 
 
 LinkLabel::LinkLabel(const QString& text, QWidget* parent) : QLabel(text, parent) {
     setTextFormat(Qt::PlainText);
-    setFocusPolicy(Qt::StrongFocus);
     setCursor(Qt::PointingHandCursor);
     setMargin(3);
     takeLinkColour();
@@ -53,6 +52,12 @@ void LinkLabel::takeLinkColour() {
 void LinkLabel::changeEvent(QEvent* event) {
     if (event->type() == QEvent::PaletteChange || event->type() == QEvent::ParentChange) takeLinkColour();
     QLabel::changeEvent(event);
+}
+
+// Not before it is shown: the toolkit makes a whole document of a text that can take the focus.
+void LinkLabel::showEvent(QShowEvent* event) {
+    setFocusPolicy(Qt::StrongFocus);
+    QLabel::showEvent(event);
 }
 
 void LinkLabel::keyPressEvent(QKeyEvent* event) {
