@@ -68,14 +68,15 @@ QColor linkColour(const QWidget& on) {
 QPalette legibleSelection(const QPalette& desktop) {
     QColor letters = desktop.color(QPalette::HighlightedText);
     QColor behind = desktop.color(QPalette::Highlight);
-    if (contrast(behind, letters) < legible && contrast(blue, desktop.color(QPalette::Base)) >= legible) {
+    QPalette palette;
+    if (contrast(behind, letters) >= legible) return palette;
+    if (contrast(blue, desktop.color(QPalette::Base)) >= legible) {
         letters = Qt::white;
         behind = blue;
     }
     const QColor& goal = luminance(letters) > 0.18 ? QColorConstants::Black : QColorConstants::White;
     for (int step = 0; step < 20 && contrast(behind, letters) < legible; ++step)
         behind = mixed(behind, goal, 0.05F);
-    QPalette palette;
     palette.setColor(QPalette::Highlight, behind);
     palette.setColor(QPalette::HighlightedText, letters);
     return palette;

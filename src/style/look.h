@@ -34,8 +34,8 @@ QFont chartFont(int pixelSize, bool bold);
 // (WCAG) reckon it.
 double contrast(const QColor& one, const QColor& other);
 
-// To be laid over the desktop's palette: colours for what is selected that can be read, the desktop's own if
-// they can. Some desktops put white on a light blue.
+// To be laid over the desktop's palette: colours for what is selected that can be read, nothing where the
+// desktop's own can. Some desktops put white on a light blue.
 QPalette legibleSelection(const QPalette& desktop);
 
 // The same for a window within a window, whose title the toolkit writes in white on the colour of what is

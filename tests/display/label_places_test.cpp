@@ -151,7 +151,7 @@ TEST(Look, MakesWhatIsSelectedLegible) {
         desktop.setColor(QPalette::HighlightedText, letters);
         for (const QColor& base : {QColor{Qt::white}, QColor{Qt::black}}) {
             desktop.setColor(QPalette::Base, base);
-            const QPalette mended = look::legibleSelection(desktop);
+            const QPalette mended = look::legibleSelection(desktop).resolve(desktop);
             const QColor behind = mended.color(QPalette::Highlight);
             EXPECT_GE(look::contrast(behind, mended.color(QPalette::HighlightedText)), 4.5);
             EXPECT_EQ(behind == ground, ground == Qt::cyan) << "only that one is legible as it is";
