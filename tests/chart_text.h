@@ -1,42 +1,28 @@
-// Charts as lines of text, so that whole charts can be written down, compared at sight and digested.
+// Charts as lines of text, so that whole charts can be written down and compared at sight.
 #pragma once
 
 #include <gtest/gtest.h>
 
 #include <array>
-#include <cstdint>
-#include <sstream>
 #include <string>
 #include <string_view>
-#include <utility>
-#include <vector>
 
-#include "chart/birth_entry.h"
 #include "chart/generate.h"
 
-// The lists as they stand on a date "day.month.year".
-inline DateLists dateOf(const std::string& date) {
+// The date "day.month.year".
+inline PickedDate dateOf(const std::string& date) {
     const auto dot = date.find('.'), lastDot = date.rfind('.');
     return {std::stoi(date) - 1, std::stoi(date.substr(dot + 1)) - 1,
             std::stoi(date.substr(lastDot + 1)) - firstYear};
-}
-
-// The halves of "left=right left=right ...".
-inline std::vector<std::pair<std::string, std::string>> pairsOf(const char* list) {
-    std::istringstream entries{list};
-    std::vector<std::pair<std::string, std::string>> pairs;
-    for (std::string left, right; std::getline(entries >> std::ws, left, '=') >> right;)
-        pairs.emplace_back(left, right);
-    return pairs;
 }
 
 inline BirthEntry birth(const std::string& date, int hour = 13, int minute = 1) {
     return {u" JOHN SMITH ", dateOf(date), hour, minute};
 }
 
-inline ChartModel cast(BirthEntry entry) {
+inline ChartModel cast(const BirthEntry& entry) {
     ChartModel chart;
-    EXPECT_EQ(generateChart(entry, chart), Generation::done);
+    EXPECT_TRUE(generateChart(entry, chart).has_value());
     return chart;
 }
 
@@ -56,23 +42,15 @@ inline void addLabel(std::string& line, std::string_view name, std::string text)
 // Palace, stem and branch, and then everything else that stands in the cell.
 inline std::string cellLine(const ChartModel& chart, CellIndex cell) {
     std::string line;
-    for (const CaptionField& caption : captionFields) {
-        addLabel(line, caption.name, std::string{(chart.cell(cell).*caption.field).text()});
-    }
-    for (const FlagField& flag : flagFields) {
-        if (chart.cell(cell).*flag.field) addLabel(line, flag.name, std::string{flag.text});
-    }
+    for (const auto& [name, field] : captionFields)
+        addLabel(line, name, std::string{(chart.cell(cell).*field).text()});
+    for (const auto& [name, field, text] : flagFields)
+        if (chart.cell(cell).*field) addLabel(line, name, std::string{text});
     return line;
 }
 
-// The 64-bit FNV-1a digest of the text, going on from that of the text before.
-inline constexpr std::uint64_t emptyDigest = 0xcbf29ce484222325;
-inline std::uint64_t digest(std::string_view text, std::uint64_t before = emptyDigest) {
-    for (const char byte : text) before = (before ^ static_cast<unsigned char>(byte)) * 0x100000001b3;
-    return before;
-}
-
-// Charts worked out by hand: lunar month, Life and Body Palace, element and year stem, then the cells.
+// Charts worked out by hand, one after another in one run of the program: what was entered, lunar month, Life
+// and Body Palace, element and year stem, then the cells.
 struct HandChart {
     BirthEntry entry;
     std::string values;
@@ -80,8 +58,8 @@ struct HandChart {
 };
 
 // clang-format off
-inline const std::array<HandChart, 2> handCharts{{
-    {birth("5.3.1985"), "1 5 7 Wood Yi",
+inline const std::array<HandChart, 4> handCharts{{
+    {birth("5.3.1985"), "5 March 1985: 1 Wei You Wood Yi",
      {"Health, Wu, Zi Wei/Yin, Tian Fu, Tian Gui, Yin Sha, Qing Yang, Hua ke",
       "Wealth, Ji, Mao, TianFu=Tai Yin, Wen Chang, Lu Cun, Hua Ji",
       "Children, Geng, Chen, TianFu=Tan Lang, Di Kong, Zuo Fu, Tuo Luo, Tian Guan",
@@ -94,7 +72,7 @@ inline const std::array<HandChart, 2> handCharts{{
       "Career, Ding, Hai, MajorStars=Tai Yang, WenQi=Wen Qu",
       "Friends, Wu, Zi, TianFu=Po Jun, Tian Kui",
       "Travel, Ji, Chou, MajorStars=Tian Ji, Tai Fu, Tian Yao, Hua Lu"}},
-    {birth("29.2.1992", 0, 0), "1 0 0 Metal Ren",  // midnight: cast for 1 March
+    {birth("29.2.1992", 0, 0), "29 February 1992: 1 Yin Yin Metal Ren",  // midnight: cast for 1 March
      {"Life Palace, Metal/Ren, Yin, Body=* Body, Feng Gao, Yin Sha",
       "Parents, Gui, Mao, MajorStars=Lian Zhen, TianFu=Po Jun, Tian Gui, Tian Kui",
       "Fortune, Jia, Chen, WenQi=Wen Qu, Zuo Fu, San Tai, Hua ke",
@@ -107,5 +85,31 @@ inline const std::array<HandChart, 2> handCharts{{
       "Children, Xin, Zi Wei/Hai, TianFu=Qi Sha, Di Jie, Di Kong, Lu Cun, Hua Quan",
       "Marriage, Ren, Zi, Tuo Luo",
       "Siblings, Gui, Chou, Tian Yao"}},
+    {birth("31.8.1987", 18, 30), "31 August 1987: 7 Hai Si Metal Ding",  // a 31st: Zi Wei stays as in the chart before
+     {"Property, Ren, Yin, Di Kong, Jie Shen, Tian Wu, Yin Sha, TianYueTwo=Tian Yue, Tian Guan",
+      "Career, Gui, Mao, MajorStars=Lian Zhen, TianFu=Po Jun, Tai Fu, Tian Xing",
+      "Friends, Jia, Chen, You Bi, San Tai",
+      "Travel, Yi, Si, Tian Fu, Body=* Body, Qing Yang",
+      "Health, Bing, Wu, MajorStars=Tian Tong, TianFu=Tai Yin, En Guang, Tian Gui, Lu Cun, Tian Kui, Hua Lu, Hua Quan",
+      "Wealth, Ding, Wei, MajorStars=Wu Qu, TianFu=Tan Lang, Tian Yao, Tuo Luo",
+      "Children, Wu, Shen, MajorStars=Tai Yang, TianFu=Ju Men, Di Jie, Hua Ji",
+      "Marriage, Ji, You, TianFu=Tian Xiang",
+      "Siblings, Geng, Xu, MajorStars=Tian Ji, TianFu=Tian Liang, Zuo Fu, Ba Zuo, Hua ke",
+      "Life Palace, Metal/Xin, Zi Wei/Hai, TianFu=Qi Sha, Feng Gao, Tian Yue, TianFutwo=Tian Fu",
+      "Parents, Ren, Zi",
+      "Fortune, Gui, Chou, Wen Chang, WenQi=Wen Qu"}},
+    {birth("17.5.1996", 23, 30), "17 May 1996: 7 Shen Shen Fire Bing",  // a date without a number: the month of the chart before
+     {"Travel, Geng, Yin, MajorStars=Tian Ji, TianFu=Tai Yin, Feng Gao, San Tai, Jie Shen, Tian Wu, Yin Sha, TianYueTwo=Tian Yue, Hua Quan",
+      "Health, Xin, Zi Wei/Mao, TianFu=Tan Lang, Tian Xing",
+      "Wealth, Ren, Chen, TianFu=Ju Men, WenQi=Wen Qu, You Bi, Qing Yang",
+      "Children, Gui, Si, TianFu=Tian Xiang, Lu Cun, Tian Guan",
+      "Marriage, Jia, Wu, TianFu=Tian Liang, Tai Fu, Tuo Luo, Tian Kui",
+      "Siblings, Yi, Wei, MajorStars=Lian Zhen, TianFu=Qi Sha, Tian Yao, Tian Gui, Hua Ji",
+      "Life Palace, Fire/Bing, Shen, Body=* Body",
+      "Parents, Ding, You",
+      "Fortune, Wu, Xu, MajorStars=Tian Tong, Wen Chang, Zuo Fu, Hua Lu, Hua ke",
+      "Property, Ji, Hai, MajorStars=Wu Qu, TianFu=Po Jun, Di Jie, Di Kong, Tian Yue",
+      "Career, Geng, Zi, MajorStars=Tai Yang, Ba Zuo, TianFutwo=Tian Fu",
+      "Friends, Xin, Chou, Tian Fu, En Guang"}},
 }};
 // clang-format on

@@ -3,14 +3,8 @@
 
 #include <gtest/gtest.h>
 
-#include <QApplication>
-#include <QComboBox>
-#include <QFileDialog>
-#include <QLabel>
-#include <QLineEdit>
-#include <QMessageBox>
-#include <QTest>
-#include <QTimer>
+#include <QtTest>
+#include <QtWidgets>
 #include <functional>
 #include <ostream>
 
@@ -20,76 +14,94 @@
 #include "temporary_folder.h"
 
 inline void PrintTo(const QString& text, std::ostream* out) { *out << '"' << text.toStdString() << '"'; }
-inline QString operator""_q(const char* text, std::size_t size) {
-    return QString::fromUtf8(text, qsizetype(size));
-}
 
-// The control of that name, in whichever window it is; any of its kind without a name.
+// The control of that name, one that is seen rather than another; any of its kind without a name.
 template <class Control = QWidget>
 Control* find(const QString& name = {}) {
-    for (QWidget* window : QApplication::topLevelWidgets()) {
-        if (window->objectName() == name && qobject_cast<Control*>(window))
-            return qobject_cast<Control*>(window);
-        if (auto* control = window->findChild<Control*>(name)) return control;
+    Control* found = nullptr;
+    for (QWidget* widget : QApplication::allWidgets()) {
+        const bool fits = name.isEmpty() || widget->objectName() == name;
+        auto* control = fits ? qobject_cast<Control*>(widget) : nullptr;
+        if (control != nullptr && (found == nullptr || widget->isVisible())) found = control;
     }
-    ADD_FAILURE() << "no " << name.toStdString();
-    return nullptr;
+    EXPECT_NE(found, nullptr) << name.toStdString();
+    return found;
 }
 
 inline void click(const QString& name) { QTest::mouseClick(find(name), Qt::LeftButton); }
 
-// Runs `action` and, while it waits for modal windows, `act` on each of them. Returns how many there were.
+// Chooses an entry of a window's menus, which acts through the event loop.
+inline void choose(const QString& window, const QString& entry) {
+    find(window)->findChild<QAction*>(entry)->trigger();
+    QCoreApplication::processEvents();
+}
+
+// Runs `action` and, while it waits for modal windows, `act` on each that comes to the front: it may close
+// the window, or leave that to the next time. Returns how often there was one.
 inline int withModals(const std::function<void()>& action, const std::function<void(QWidget&)>& act) {
+    static int watching = 0;
+    const int level = ++watching;
     int count = 0;
-    QTimer timer;
-    QObject::connect(&timer, &QTimer::timeout, [&] {
+    QWidget* actedOn = QApplication::activeModalWidget();
+    QObject watch;
+    std::function<void()> look = [&] {
+        QTimer::singleShot(10, &watch, look);  // before all else, which may wait for another window
         QWidget* window = QApplication::activeModalWidget();
-        if (window == nullptr || !window->isVisible() || window->property("dealtWith").toBool()) return;
-        window->setProperty("dealtWith", true);
+        if (watching != level || window == nullptr || !window->isVisible() || window == actedOn) return;
         ++count;
+        QWidget* const before = std::exchange(actedOn, window);
+        window->activateWindow();  // which some window managers leave out where windows change quickly
+        EXPECT_TRUE(QTest::qWaitFor([window] { return window->isActiveWindow(); }));
         act(*window);
-    });
-    timer.start(10);
+        actedOn = before;
+    };
+    QTimer::singleShot(10, &watch, look);
     action();
+    QCoreApplication::processEvents();
+    --watching;
     return count;
 }
 
-// The messages that `action` brings up, as "title|icon|text", each closed by Escape; a file dialog among them
-// is given the path or, without one, cancelled.
-inline QStringList messagesOf(const std::function<void()>& action, const std::string& path = {}) {
+// The messages that `action` brings up, as "title|icon|text", each closed by Escape, a question by the
+// answer. A file dialog among them is given the path or, without one, cancelled; one that stays is, too.
+inline QStringList messagesOf(const std::function<void()>& action, const std::string& path = {},
+                              QMessageBox::StandardButton answer = QMessageBox::No) {
+    const QStringList icons{"none", "information", "warning", "critical", "question"};
     QStringList seen;
+    bool given = path.empty();
     withModals(action, [&](QWidget& window) {
         if (const auto* box = qobject_cast<QMessageBox*>(&window)) {
             EXPECT_EQ(box->textFormat(), Qt::PlainText);
-            const QString icon = box->icon() == QMessageBox::Information ? "information"_q : "critical"_q;
-            seen += "%1|%2|%3"_q.arg(box->windowTitle(), icon, box->text());
-        } else {
-            window.findChild<QLineEdit*>("fileNameEdit"_q)->setText(QString::fromStdString(path));
-            if (!path.empty()) return QTest::keyClick(window.findChild<QLineEdit*>(), Qt::Key_Return);
+            seen += QStringList{box->windowTitle(), icons[box->icon()], box->text()}.join("|");
+            if (box->icon() == QMessageBox::Question) return box->button(answer)->click();
+        } else if (auto* name = window.findChild<QLineEdit*>("fileNameEdit"); !given) {
+            given = true;
+            EXPECT_TRUE(QTest::qWaitFor([name] { return name->hasFocus(); }));
+            name->setText(QString::fromStdString(path));
+            return QTest::keyClick(name, Qt::Key_Return);
+        } else if (!path.empty()) {
+            seen += name->text().toStdString() == path ? "stays" : "loses the name";
         }
         QTest::keyClick(&window, Qt::Key_Escape);
     });
     return seen;
 }
 
+inline const QStringList dateAndTime{"cmbDate", "cmbMonth", "cmbYear", "cmbHour", "cmbMinute"};
+
 // Enters a birth into the input form.
 inline void enter(const QString& name, const std::string& date, int hour, int minute) {
-    const DateLists lists = dateOf(date);
-    find<QLineEdit>("txtName"_q)->setText(name);
-    find<QComboBox>("cmbDate"_q)->setCurrentIndex(lists.dayPosition);
-    find<QComboBox>("cmbMonth"_q)->setCurrentIndex(lists.monthPosition);
-    find<QComboBox>("cmbYear"_q)->setCurrentIndex(lists.yearPosition);
-    find<QComboBox>("cmbHour"_q)->setCurrentIndex(hour);
-    find<QComboBox>("cmbMinute"_q)->setCurrentIndex(minute);
+    const auto [day, month, year] = dateOf(date);
+    find<QLineEdit>("txtName")->setText(name);
+    const int positions[]{day, month, year, hour, minute};
+    for (int i = 0; i < 5; ++i) find<QComboBox>(dateAndTime[i])->setCurrentIndex(positions[i]);
 }
 
 // What the input form shows: name, date and time.
 inline QString entered() {
-    QStringList texts{find<QLineEdit>("txtName"_q)->text()};
-    for (const QString& list : {"cmbDate"_q, "cmbMonth"_q, "cmbYear"_q, "cmbHour"_q, "cmbMinute"_q}) {
-        texts += find<QComboBox>(list)->currentText();
-    }
-    return texts.join(" "_q);
+    QStringList texts{find<QLineEdit>("txtName")->text()};
+    for (const QString& list : dateAndTime) texts += find<QComboBox>(list)->currentText();
+    return texts.join(" ");
 }
 
 // The whole program, as it has just been started.
@@ -98,14 +110,14 @@ class Program : public TemporaryFolder {
     Program() {
         LunarMonth = 0;
         application_.start();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(find("frmMain"_q)));
+        EXPECT_TRUE(QTest::qWaitForWindowActive(find("frmMain")));
     }
 
-    // Casts the first of the charts worked out by hand.
-    static void showChart() {
-        enter("JOHN SMITH"_q, "5.3.1985", 13, 1);
-        click("cmdGenerateChart"_q);
-        EXPECT_TRUE(QTest::qWaitForWindowActive(find("frmMdi"_q)));
+    // Casts the first of the charts worked out by hand, or another one.
+    static void showChart(const std::string& date = "5.3.1985", int hour = 13, int minute = 1) {
+        enter("JOHN SMITH", date, hour, minute);
+        click("cmdGenerateChart");
+        EXPECT_TRUE(QTest::qWaitForWindowActive(find("frmMdi")));
     }
 
     Application application_;

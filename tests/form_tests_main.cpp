@@ -5,7 +5,7 @@
 #include <QApplication>
 #include <QTemporaryDir>
 
-#include "style/look.h"
+#include "app/prepare_toolkit.h"
 
 int main(int argc, char* argv[]) {
     testing::InitGoogleTest(&argc, argv);
@@ -13,8 +13,6 @@ int main(int argc, char* argv[]) {
     const QTemporaryDir settings;  // file dialogs remember where they were
     qputenv("XDG_CONFIG_HOME", settings.path().toUtf8());
     QApplication toolkit{argc, argv};
-    QApplication::setQuitOnLastWindowClosed(false);
-    QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
-    QApplication::setFont(look::textFont(QApplication::font()));
+    prepareToolkit();
     return RUN_ALL_TESTS();
 }

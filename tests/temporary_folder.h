@@ -19,8 +19,7 @@ class TemporaryFolder : public testing::Test {
 
     static void write(const std::string& path, const std::string& bytes) { std::ofstream{path} << bytes; }
     static std::string read(const std::string& path) {
-        std::ifstream file{path};
-        return {std::istreambuf_iterator<char>{file}, {}};
+        return {std::istreambuf_iterator<char>{std::ifstream{path}.rdbuf()}, {}};
     }
 
     // All that is in the folder.

@@ -3,7 +3,8 @@
 # accessibility bus. The display's size in pixels is taken from DISPLAY_SIZE. Ends as the command ends.
 set -euo pipefail
 
-scratch=$(mktemp -d)
+# In memory, as a person's runtime folder is.
+scratch=$(mktemp -d -p "$([ -w /dev/shm ] && echo /dev/shm || echo /tmp)")
 export XDG_RUNTIME_DIR=$scratch/runtime XDG_CONFIG_HOME=$scratch/config LC_ALL=C.UTF-8
 export QT_LINUX_ACCESSIBILITY_ALWAYS_ON=1
 mkdir -m 700 "$XDG_RUNTIME_DIR" "$XDG_CONFIG_HOME"

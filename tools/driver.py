@@ -6,8 +6,8 @@ the pointer and typed into with real keys. Nothing sleeps for a fixed time: ever
 
 import os
 import pathlib
-import signal
 import subprocess
+import sys
 import tempfile
 import time
 
@@ -19,6 +19,12 @@ from gi.repository import Atspi, GLib
 PROJECT = pathlib.Path(__file__).resolve().parent.parent
 PROGRAM = PROJECT / "build" / "dev" / "app" / "palace-lantern"
 PATIENCE = 30  # seconds
+TITLE = "Palace Lantern"
+GENERATE = "Get My Palace Lantern Interpretation"
+OPEN = "Click Here To Open Previously Saved Palace Lantern Interpretation"
+CHART = "Palace Lantern Chart"
+ANALYSIS = "Palace Lantern Analysis"
+ABOUT = "About Palace Lantern"
 
 
 class Failure(Exception):
@@ -30,9 +36,9 @@ def expect(condition, otherwise):
         raise Failure(otherwise)
 
 
-def wait_until(condition, what, seconds=PATIENCE):
+def wait_until(condition, what):
     """Returns the first true value that `condition` gives. A control that vanishes while asked counts as false."""
-    end = time.monotonic() + seconds
+    end = time.monotonic() + PATIENCE
     while True:
         try:
             value = condition()
@@ -40,13 +46,13 @@ def wait_until(condition, what, seconds=PATIENCE):
             value = None
         if value:
             return value
-        if time.monotonic() > end:
-            raise Failure(f"waited {seconds} seconds in vain for {what}")
+        expect(time.monotonic() < end, f"waited {PATIENCE} seconds in vain for {what}")
         time.sleep(0.03)
 
 
-def run(*command):
-    return subprocess.run([str(part) for part in command], check=True, capture_output=True, text=True).stdout
+def run(*command, check=True, **more):
+    """The command's output."""
+    return subprocess.run([str(part) for part in command], check=check, stdout=subprocess.PIPE, **more).stdout
 
 
 class Control:
@@ -64,6 +70,15 @@ class Control:
     def role(self):
         return self.node.get_role_name()
 
+    @property
+    def caption(self):
+        """The label that stands beside a control, as its relation on the bus tells; without one, its name."""
+        for relation in self.node.get_relation_set():
+            label = relation.get_target(0)
+            if relation.get_relation_type() == Atspi.RelationType.LABELLED_BY and label.get_role_name() == "label":
+                return label.get_name()
+        return self.name
+
     def has(self, state):
         return self.node.get_state_set().contains(getattr(Atspi.StateType, state))
 
@@ -74,33 +89,32 @@ class Control:
         return tuple(round(length * self.scale) for length in (place.x, place.y, place.width, place.height))
 
     @property
-    def middle(self):
-        left, top, width, height = self.rectangle
-        return left + width // 2, top + height // 2
-
-    @property
-    def selected(self):
-        """The entry that is selected in a list."""
-        return next((entry.name for entry in self.children() if entry.has("SELECTED")), None)
-
-    @property
     def text(self):
         text = self.node.get_text_iface()
         return text.get_text(0, text.get_character_count())
 
     def set_text(self, text):
-        """Whether the control took the text."""
-        editable = self.node.get_editable_text_iface()
-        return editable is not None and editable.set_text_contents(text) and self.text == text
+        self.node.get_editable_text_iface().set_text_contents(text)
+        self.wait_text(text)
 
-    def has_focus(self):
-        return self.has("FOCUSED")
+    def wait_text(self, text):
+        wait_until(lambda: self.text == text, f"'{text}' in '{self.name}'")
+
+    def wait_focus(self):
+        wait_until(lambda: self.has("FOCUSED"), f"the focus on {self.role} '{self.name}'")
+
+    def wait_closed(self):
+        """Waits until a window, or what is in it, is gone."""
+        def is_gone():
+            try:
+                return not self.has("SHOWING")
+            except GLib.Error:
+                return True
+        wait_until(is_gone, "a window to close")
 
     def children(self):
-        for index in range(self.node.get_child_count()):
-            child = self.node.get_child_at_index(index)
-            if child is not None:
-                yield Control(child, self.scale)
+        nodes = (self.node.get_child_at_index(index) for index in range(self.node.get_child_count()))
+        return [Control(node, self.scale) for node in nodes if node is not None]
 
     def descendants(self, hidden=False):
         """Everything below, depth first; what is not showing only if `hidden`."""
@@ -112,113 +126,95 @@ class Control:
     def all(self, role, hidden=False):
         return [control for control in self.descendants(hidden) if control.role == role]
 
-    def find(self, role, name=None, seconds=PATIENCE):
-        """The first showing control of that role with that name; waits for it to appear."""
-        return wait_until(lambda: self.find_now(role, name), f"{role} '{name or ''}' in '{self.name}'", seconds)
+    def find(self, role, name=None, hidden=False):
+        """The first control of that role with that name, or with that caption for a list; waits for it."""
+        def look():
+            return next((control for control in self.all(role, hidden) if name in (None, control.caption)), None)
+        return wait_until(look, f"{role} '{name or ''}' in '{self.name}'")
 
-    def find_now(self, role, name=None):
-        for control in self.descendants():
-            if control.role == role and name in (None, control.name):
-                return control
-        return None
-
-    def do(self, *actions):
-        """Carries out the first of the named actions that the control offers."""
+    def do(self, action):
         offered = self.node.get_action_iface()
-        names = [offered.get_action_name(i).lower() for i in range(offered.get_n_actions())] if offered else []
-        for action in actions:
-            if action.lower() in names:
-                expect(offered.do_action(names.index(action.lower())), f"'{self.name}' refused '{action}'")
-                return
-        raise Failure(f"{self.role} '{self.name}' offers none of {actions}, only {names}")
+        names = [offered.get_action_name(i) for i in range(offered.get_n_actions())]
+        expect(action in names, f"{self.role} '{self.name}' offers {names}, not {action}")
+        offered.do_action(names.index(action))
+
+    def press_ok(self):
+        """Closes a dialog by its button, over the bus."""
+        self.find("push button", "OK").do("Press")
+        self.wait_closed()
+
+    def click(self, button=1):
+        left, top, width, height = wait_until(lambda: self.has("SHOWING") and self.rectangle, self.name)
+        run("xdotool", "mousemove", left + width // 2, top + height // 2, "click", button)
 
 
-class Program:
-    """The program, running on the present display with a runtime and a configuration folder of its own."""
+class Program(Control):
+    """The program, running on the present display with a home of its own. Its children are its windows."""
 
-    def __init__(self, path=PROGRAM, scale=1.0, environment=None):
-        self.scale = scale
-        self.home = tempfile.TemporaryDirectory(prefix="palace-lantern-")
-        os.chmod(self.home.name, 0o700)
-        own = {
-            "HOME": self.home.name,
-            "XDG_RUNTIME_DIR": self.home.name,
-            "XDG_CONFIG_HOME": self.home.name,
-            "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1",
-            "QT_SCALE_FACTOR": str(scale),
-        }
-        self.process = subprocess.Popen([path], env={**os.environ, **own, **(environment or {})})
+    def __init__(self, path=PROGRAM, pictures=None, scale=1, environment=None):
+        self._folder = tempfile.TemporaryDirectory(prefix="palace-lantern-")
+        self.home = pathlib.Path(self._folder.name)
+        self.pictures = pictures and pathlib.Path(pictures)
+        own = {name: str(self.home) for name in ("HOME", "XDG_RUNTIME_DIR", "XDG_CONFIG_HOME")}
+        own.update(QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1", QT_SCALE_FACTOR=str(scale), **(environment or {}))
         self.events = []
         self.listener = Atspi.EventListener.new(lambda event: self.events.append((event.type, event.source)))
         self.listener.register("window")
-        self.node = wait_until(self._on_bus, "the program on the accessibility bus")
+        self.listener.register("object")
+        self.process = subprocess.Popen([path], env={**os.environ, **own})
+        super().__init__(wait_until(self._on_bus, "the program on the accessibility bus"), scale)
+        self.node.set_cache_mask(Atspi.Cache.NONE)  # asked anew each time, so never out of date
 
     def __enter__(self):
         return self
 
     def __exit__(self, *_):
-        if self.process.poll() is None:
-            self.process.send_signal(signal.SIGKILL)
-            self.process.wait()
-        self.home.cleanup()
+        self.process.kill()
+        self.process.wait()
+        self._folder.cleanup()
 
     def _on_bus(self):
         expect(self.process.poll() is None, f"the program ended at once with code {self.process.returncode}")
-        desktop = Atspi.get_desktop(0)
-        for index in range(desktop.get_child_count()):
-            node = desktop.get_child_at_index(index)
-            if node is not None and node.get_process_id() == self.process.pid:
-                node.set_cache_mask(Atspi.Cache.NONE)  # asked anew each time, so never out of date
-                return node
-        return None
+        programs = Control(Atspi.get_desktop(0), 1).children()
+        return next((each.node for each in programs if each.node.get_process_id() == self.process.pid), None)
 
-    def windows(self):
-        return [window for window in Control(self.node, self.scale).children() if window.has("SHOWING")]
+    def children(self):
+        """The newest first."""
+        return super().children()[::-1]
 
-    def window(self, title):
-        """The showing window of that title, in front of others of the same title; waits for it to appear."""
-        found = wait_until(lambda: [w for w in self.windows() if w.name == title], f"the window '{title}'")
-        return found[-1]
+    def window(self, title=TITLE, role=None):
+        """The newest showing window of that title and role; waits for it to appear."""
+        def look():
+            showing = (window for window in self.children() if window.has("SHOWING"))
+            return next((w for w in showing if w.name == title and role in (None, w.role)), None)
+        return wait_until(look, f"the window '{title}'")
 
     def message(self):
-        """The message box that is showing; waits for it to appear."""
-        return wait_until(lambda: [w for w in self.windows() if w.role == "alert"], "a message box")[-1]
+        return self.window(role="alert")
 
-    def find(self, role, name=None):
-        """The first showing control of that role with that name in any window, the newest window first."""
-        def look():
-            found = (window.find_now(role, name) for window in reversed(self.windows()))
-            return next((control for control in found if control), None)
-        return wait_until(look, f"{role} '{name or ''}'")
+    def palaces(self):
+        """The cells of the chart; waits for it to appear."""
+        cells = self.find("frame", CHART).all("push button")
+        expect(len(cells) == 12, f"the chart has {len(cells)} palaces")
+        return cells
 
-    def heard(self, window):
-        """The kinds of events with which the window has been announced on the bus."""
-        while GLib.MainContext.default().iteration(False):
-            pass
-        return [kind for kind, source in self.events if source == window.node]
-
-    def wait_closed(self, window):
-        """Waits until the window, or a control in it, is gone."""
-        wait_until(lambda: not is_showing(window), "the window to close")
-
-    def end_so_far(self):
-        """Whether the program still runs, for a failure's report."""
-        code = self.process.poll()
-        return "the program still runs" if code is None else f"the program had ended with code {code}"
+    def wait_event(self, kind, control):
+        """Waits until the bus has announced an event of that kind about the control."""
+        def heard():
+            while GLib.MainContext.default().iteration(False):
+                pass
+            return any(event.startswith(kind) and source == control.node for event, source in self.events)
+        wait_until(heard, f"the announcement {kind} of '{control.name}'")
 
     def wait_end(self):
-        """The code with which the program ended."""
         wait_until(lambda: self.process.poll() is not None, "the program to end")
-        return self.process.returncode
+        expect(self.process.returncode == 0, f"the program ended with code {self.process.returncode}")
 
-    def window_id(self, title):
-        """The topmost window of the program with that title, as the display knows it."""
+    def picture(self, title, name):
+        """A picture of the topmost window of that title, with its frame."""
         search = ["xdotool", "search", "--all", "--onlyvisible", "--pid", self.process.pid, "--name", f"^{title}$"]
-        return wait_until(lambda: _lines(search), f"the window '{title}' on the display")[-1]
-
-    def picture(self, title, path):
-        """A picture of the window with its frame."""
-        take_picture(path, "-frame", "-window", self.window_id(title))
+        windows = wait_until(lambda: run(*search, check=False).split(), f"the window '{title}' on the display")
+        take_picture(self.pictures / f"{name}.png", "-frame", "-window", windows[-1].decode())
 
 
 def take_picture(path, *what):
@@ -227,27 +223,12 @@ def take_picture(path, *what):
 
     def still():
         time.sleep(0.15)
-        shots.append(subprocess.run(["import", *map(str, what), "ppm:-"], check=True, capture_output=True).stdout)
+        shots.append(run("import", *what, "ppm:-"))
         return shots[-2:].count(shots[-1]) == 2
 
     wait_until(still, "the screen to stand still")
-    subprocess.run(["convert", "ppm:-", path], input=shots[-1], check=True)
-
-
-def _lines(command):
-    return subprocess.run([str(part) for part in command], capture_output=True, text=True).stdout.split()
-
-
-def is_showing(control):
-    try:
-        return control.has("SHOWING")
-    except GLib.Error:
-        return False
-
-
-def click(control):
-    x, y = wait_until(lambda: control.has("SHOWING") and control.middle, f"{control.role} '{control.name}'")
-    run("xdotool", "mousemove", x, y, "click", 1)
+    path.parent.mkdir(parents=True, exist_ok=True)
+    run("convert", "ppm:-", path, input=shots[-1])
 
 
 def type_text(text):
@@ -256,3 +237,17 @@ def type_text(text):
 
 def press(*keys):
     run("xdotool", "key", "--delay", 30, *keys)
+
+
+def play(steps, program):
+    """Takes the program through the steps, each under its own description, and ends the script where one fails."""
+    for step in steps:
+        print(f"  {step.__doc__}", flush=True)
+        try:
+            step(program)
+        except (Failure, GLib.Error) as failure:
+            code = program.process.poll()
+            screen = PROJECT / "build" / "failure.png"
+            run("import", "-window", "root", screen)
+            sys.exit(f"FAILED: {failure}; the program " + ("still runs" if code is None else f"ended with code {code}")
+                     + f"\nThe screen as it was then: {screen}")

@@ -5,261 +5,213 @@ Every step says what it does, checks what comes of it, and leaves a picture wher
 usage: sample_session.py FOLDER [PROGRAM]   where FOLDER is for the pictures
 """
 
-import pathlib
 import sys
-import tempfile
 import unicodedata
 
-from gi.repository import GLib
-
-from driver import PROGRAM, Failure, Program, click, expect, press, run, type_text, wait_until
-
-GENERATE = "Get My Palace Lantern Interpretation"
-OPEN = "Click Here To Open Previously Saved Palace Lantern Interpretation"
-CHART = "Palace Lantern Chart"
-ANALYSIS = "Palace Lantern Analysis"
+from driver import (ABOUT, ANALYSIS, CHART, GENERATE, OPEN, TITLE, Program, expect, play, press, run, type_text,
+                    wait_until)
 
 
-class Session:
-    """What the steps have in hand: the program, a folder for its files and one for the pictures."""
-
-    def __init__(self, program, files, pictures):
-        self.program = program
-        self.files = pathlib.Path(files)
-        self.pictures = pathlib.Path(pictures)
-
-    def analysis(self):
-        return self.program.window(ANALYSIS)
-
-    def list_named(self, name):
-        return self.program.find("combo box", name)
-
-    def picture(self, title, name):
-        self.program.picture(title, self.pictures / f"{name}.png")
-
-    def expect_message(self, text, picture):
-        """Reads the message, takes its picture and closes it with Enter."""
-        message = self.program.message()
-        told = message.find("label").name
-        expect(told == text, f"the message says '{told}', not '{text}'")
-        self.picture("Palace Lantern", picture)
-        press("Return")
-        self.program.wait_closed(message)
-
-    def choose_file(self, title, path):
-        """Types the whole path into a file dialog."""
-        box = self.program.find("text", "File name:")
-        self.program.window(title)
-        wait_until(lambda: box.has("FOCUSED"), "the file's name box in focus")
-        press("ctrl+a")
-        type_text(str(path))
-        press("Return")
-        self.program.wait_closed(box)
+def expect_message(program, text, picture):
+    """Reads the message, takes its picture and closes it with Enter."""
+    message = program.message()
+    told = message.find("label").name
+    expect(told == text, f"the message says '{told}', not '{text}'")
+    program.picture(TITLE, picture)
+    press("Return")
+    message.wait_closed()
 
 
-def wait_text(control, text):
-    wait_until(lambda: control.text == text, f"'{text}' in '{control.name}'")
+def choose_file(program, title, path):
+    """Types the whole path into a file dialog."""
+    box = program.window(title).find("text", "File name:")
+    box.wait_focus()
+    press("ctrl+a")
+    type_text(str(path))
+    press("Return")
+    box.wait_closed()
 
 
-def wait_selected(choice, entry):
-    wait_until(lambda: choice.selected == entry, f"'{entry}' in '{choice.name}'")
+def wait_picked(choice, entry):
+    wait_until(lambda: choice.name == entry, f"'{entry}' in '{choice.caption}'")
 
 
-def pick_by_mouse(choice, entry):
+def pick_by_mouse(program, caption, entry):
     """Opens the list, turns the wheel until the entry is in sight, and clicks it."""
-    click(choice)
-    wait_until(lambda: choice.all("list item"), f"the entries of '{choice.name}'")
-    entries = [item.name for item in choice.children()]
-    for _ in range(100):
+    choice = program.find("combo box", caption)
+    choice.click()
+    choice.find("list item")
+    entries = [item.name for item in choice.all("list item", hidden=True)]
+    for _ in entries:
         shown = choice.all("list item")
-        if any(item.name == entry for item in shown):
+        names = [item.name for item in shown]
+        if entry in names:
             break
-        upwards = entries.index(entry) < entries.index(shown[0].name)
-        run("xdotool", "mousemove", *shown[len(shown) // 2].middle, "click", 4 if upwards else 5)
-    click(choice.find("list item", entry))
-    wait_selected(choice, entry)
+        upwards = entries.index(entry) < entries.index(names[0])
+        shown[len(shown) // 2].click(4 if upwards else 5)
+    choice.find("list item", entry).click()
+    wait_picked(choice, entry)
 
 
-def pick_by_keys(choice, entry):
+def pick_by_keys(program, caption, entry):
     """Moves the focus on to the list and types the entry's beginning."""
+    choice = program.find("combo box", caption)
     press("Tab")
-    wait_until(lambda: choice.has("FOCUSED"), f"the focus on the list '{choice.name}'")
+    choice.wait_focus()
     type_text(entry)
-    wait_selected(choice, entry)
+    wait_picked(choice, entry)
 
 
-def type_name_with_a_digit(session):
+def type_name_with_a_digit(program):
     """A name is typed; its digit is refused with a message, and its letters enter as capitals"""
-    name = session.program.find("text", "Name")
-    click(name)
+    name = program.find("text", "Name")
+    name.click()
     type_text("mei ling7")
-    session.expect_message("Please Enter Only Letters", "message")
-    wait_text(name, "MEI LING")
+    expect_message(program, "Please Enter Only Letters", "message")
+    name.wait_text("MEI LING")
 
 
-def pick_an_impossible_date(session):
+def pick_an_impossible_date(program):
     """30 February is picked from the lists by mouse and by keys, and refused"""
-    pick_by_mouse(session.list_named("Year"), "1988")
-    pick_by_mouse(session.list_named("Date"), "30")
-    pick_by_keys(session.list_named("Month"), "February")
-    click(session.program.find("push button", GENERATE))
-    session.expect_message("Please Enter Correct Date Of Birth !", "message-date")
-    expect(session.list_named("Date").has("FOCUSED"), "the focus is not on the date")
+    pick_by_mouse(program, "Year", "1988")
+    pick_by_mouse(program, "Date", "30")
+    pick_by_keys(program, "Month", "February")
+    program.find("push button", GENERATE).click()
+    expect_message(program, "Please Enter Correct Date Of Birth !", "message-date")
+    program.find("combo box", "Date").wait_focus()
 
 
-def pick_date_and_time(session):
+def pick_date_and_time(program):
     """14 February 1988, 9:30 is picked"""
     type_text("14")
-    wait_selected(session.list_named("Date"), "14")
-    pick_by_mouse(session.list_named("Hour"), "9")
-    pick_by_keys(session.list_named("Minutes"), "30")
-    session.picture("Palace Lantern", "input")
+    wait_picked(program.find("combo box", "Date"), "14")
+    pick_by_mouse(program, "Hour", "9")
+    pick_by_keys(program, "Minutes", "30")
+    program.picture(TITLE, "input")
 
 
-def generate_by_enter(session):
+def generate_by_enter(program):
     """Enter in the name box casts the chart"""
-    click(session.program.find("text", "Name"))
+    program.find("text", "Name").click()
     press("Return")
-    chart = session.program.find("frame", CHART)
-    labels = [label.name for label in chart.all("label")]
+    labels = [label.name for label in program.find("frame", CHART).all("label")]
     for text in ("MEI LING", "February/14/1988", "9:30"):
         expect(text in labels, f"the chart does not show '{text}': {labels}")
-    expect(len(chart.all("push button")) == 12, "the chart does not have twelve palaces")
+    program.palaces()
     run("xdotool", "mousemove", 2, 200)
-    session.picture("Palace Lantern", "chart")
+    program.picture(TITLE, "chart")
 
 
-def palace(session, name):
-    buttons = session.program.find("frame", CHART).all("push button")
-    return next(button for button in buttons if button.name.startswith(name))
-
-
-def open_palace_by_click(session):
+def open_palace_by_click(program):
     """A click on the Wealth palace explains it"""
-    click(palace(session, "Wealth palace"))
-    analysis = session.analysis()
+    wealth = next(palace for palace in program.palaces() if palace.name.startswith("Wealth palace"))
+    wealth.click()
+    analysis = program.window(ANALYSIS)
     expect("Wealth" in analysis.find("text", "Analysis").text, "the analysis does not speak of the palace")
     expect([b.name for b in analysis.all("push button")] == ["OK"], "one palace offers other buttons than OK")
-    session.picture(ANALYSIS, "analysis")
+    program.picture(ANALYSIS, "analysis")
     press("Escape")
-    session.program.wait_closed(analysis)
-    wait_until(lambda: palace(session, "Wealth palace").has("FOCUSED"), "the focus back on the palace")
+    analysis.wait_closed()
+    wealth.wait_focus()
 
 
-def open_palace_by_keys(session):
+def open_palace_by_keys(program):
     """An arrow key and Enter explain its neighbour"""
     press("Down")
-    neighbour = wait_until(lambda: next(
-        (button for button in session.program.find("frame", CHART).all("push button") if button.has("FOCUSED")), None), "a palace in focus")
-    expect(not neighbour.name.startswith("Wealth"), "the arrow key does not move the focus")
+    focused = wait_until(lambda: [p for p in program.palaces() if p.has("FOCUSED")], "a palace in focus")
+    expect(not focused[0].name.startswith("Wealth"), "the arrow key does not move the focus")
     press("Return")
-    analysis = session.analysis()
-    expect(neighbour.name.split(" palace")[0] in analysis.find("text", "Analysis").text, "another palace is explained")
+    analysis = program.window(ANALYSIS)
+    expect(focused[0].name.split(" palace")[0] in analysis.find("text", "Analysis").text, "another palace is explained")
     press("Return")
-    session.program.wait_closed(analysis)
+    analysis.wait_closed()
 
 
-def show_all(session):
-    """Show All explains all twelve"""
-    click(session.program.find("push button", "Show All"))
-    text = session.analysis().find("text", "Analysis").text
-    expect(len(text) > 5000, f"the whole analysis is only {len(text)} characters long")
-    session.picture(ANALYSIS, "show-all")
-
-
-def save_chart_file(session):
-    """The chart is saved as a file"""
-    click(session.analysis().find("push button", "Save"))
-    path = session.files / "mei-ling.plf"
-    session.choose_file("Palace Lantern", path)
+def show_all_and_save(program):
+    """Show All explains all twelve, and the chart is saved as a file"""
+    program.find("push button", "Show All").click()
+    analysis = program.window(ANALYSIS)
+    length = len(analysis.find("text", "Analysis").text)
+    expect(length > 5000, f"the whole analysis is only {length} characters long")
+    program.picture(ANALYSIS, "show-all")
+    analysis.find("push button", "Save").click()
+    path = program.home / "mei-ling.plf"
+    choose_file(program, TITLE, path)
     wait_until(path.exists, "the chart file")
     expect(path.read_bytes().count(b"\n") >= 4, "the chart file has fewer than four lines")
 
 
-def print_to_pdf(session):
+def print_to_pdf(program):
     """The analysis is printed to a PDF file"""
-    click(session.analysis().find("push button", "Print"))
-    dialog = session.program.window("Print")
-    session.picture("Print", "print")
-    target = session.files / "analysis.pdf"
-    click(dialog.find("text", "Output file:"))
+    analysis = program.window(ANALYSIS)
+    analysis.find("push button", "Print").click()
+    dialog = program.window("Print")
+    program.picture("Print", "print")
+    target = program.home / "analysis.pdf"
+    dialog.find("text", "Output file:").click()
     press("ctrl+a")
     type_text(str(target))
-    click(dialog.find("push button", "Print"))
-    session.program.wait_closed(dialog)
+    dialog.find("push button", "Print").click()
+    dialog.wait_closed()
     wait_until(lambda: target.exists() and target.read_bytes().rstrip().endswith(b"%%EOF"), "the whole PDF file")
-    printed = unicodedata.normalize("NFKC", run("pdftotext", target, "-"))  # takes ligatures apart
-    analysis = session.analysis().find("text", "Analysis").text
-    missing = [word for word in analysis.split() if word not in printed]
+    printed = unicodedata.normalize("NFKC", run("pdftotext", target, "-").decode())  # takes ligatures apart
+    missing = [word for word in analysis.find("text", "Analysis").text.split() if word not in printed]
     expect(not missing, f"the PDF file lacks {len(missing)} of the analysis's words: {missing[:10]}")
     press("Escape")
+    analysis.wait_closed()
 
 
-def save_picture(session):
+def save_picture(program):
     """The chart is saved as a JPEG picture, pixel for pixel as large as on screen"""
-    frame = session.program.find("frame", CHART)
-    click(session.program.find("push button", "Save as JPG"))
-    session.choose_file("Save as JPG", session.files / "mei-ling.jpg")
-    path = session.files / "mei-ling.jpg"
+    path = program.home / "mei-ling.jpg"
+    program.find("push button", "Save as JPG").click()
+    choose_file(program, "Save as JPG", path)
     wait_until(path.exists, "the picture")
+    frame = program.find("frame", CHART)
     _, _, width, height = frame.find("filler").rectangle
     height -= frame.find("menu bar").rectangle[3]
-    told = run("identify", "-format", "%m %w %h", path)
+    told = run("identify", "-format", "%m %w %h", path).decode()
     expect(told == f"JPEG {width} {height}", f"the picture is {told}, not JPEG {width} {height}")
 
 
-def go_back(session):
+def go_back(program):
     """Back empties the input form"""
-    click(session.program.find("push button", "Back"))
-    name = session.program.find("text", "Name")
-    expect(name.text == "" and session.list_named("Year").selected == "1970", "the form is not as at the start")
+    program.find("push button", "Back").click()
+    program.find("text", "Name").wait_text("")
+    wait_picked(program.find("combo box", "Year"), "1970")
 
 
-def open_chart_file(session):
+def open_chart_file(program):
     """The chart file, which keeps no time of birth, is opened again and its chart cast"""
-    pick_by_mouse(session.list_named("Hour"), "9")
-    click(session.program.find("push button", OPEN))
-    session.choose_file("Select the source file", session.files / "mei-ling.plf")
-    chart = session.program.find("frame", CHART)
-    expect(chart.find("label", "February/14/1988") and chart.find("label", "MEI LING"), "it is another chart")
+    pick_by_mouse(program, "Hour", "9")
+    program.find("push button", OPEN).click()
+    choose_file(program, "Select the source file", program.home / "mei-ling.plf")
+    for text in ("MEI LING", "February/14/1988"):
+        program.find("frame", CHART).find("label", text)
 
 
-def read_about(session):
+def read_about(program):
     """The about box names the program"""
-    click(session.program.find("menu item", "Help"))
-    click(session.program.find("menu item", "About Software"))
-    about = session.program.window("About Palace Lantern")
-    about.find("label", "Palace Lantern")
-    session.picture("About Palace Lantern", "about")
+    program.find("menu item", "Help").click()
+    program.find("menu item", "About Software").click()
+    about = program.window(ABOUT)
+    about.find("label", TITLE)
+    program.picture(ABOUT, "about")
     press("Escape")
-    session.program.wait_closed(about)
+    about.wait_closed()
 
 
-def leave_by_menu(session):
+def leave_by_menu(program):
     """Exit in the menu ends the program"""
-    click(session.program.find("menu item", "File"))
-    click(session.program.find("menu item", "File").find("menu item", "Exit"))
-    code = session.program.wait_end()
-    expect(code == 0, f"the program ended with code {code}")
+    program.find("menu item", "File").click()
+    program.find("menu item", "File").find("menu item", "Exit").click()
+    program.wait_end()
 
 
 STEPS = [type_name_with_a_digit, pick_an_impossible_date, pick_date_and_time, generate_by_enter, open_palace_by_click,
-         open_palace_by_keys, show_all, save_chart_file, print_to_pdf, save_picture, go_back, open_chart_file,
+         open_palace_by_keys, show_all_and_save, print_to_pdf, save_picture, go_back, open_chart_file,
          read_about, leave_by_menu]
 
-
-def main(pictures, program=PROGRAM):
-    pathlib.Path(pictures).mkdir(parents=True, exist_ok=True)
-    with Program(program) as running, tempfile.TemporaryDirectory() as files:
-        session = Session(running, files, pictures)
-        for step in STEPS:
-            print(f"  {step.__doc__}", flush=True)
-            try:
-                step(session)
-            except (Failure, GLib.Error) as failure:
-                run("import", "-window", "root", pathlib.Path(pictures) / "failure.png")
-                sys.exit(f"FAILED: {failure}; {running.end_so_far()}\nThe screen as it was then: {pictures}/failure.png")
-
-
 if __name__ == "__main__":
-    main(*sys.argv[1:])
+    with Program(*sys.argv[2:], pictures=sys.argv[1]) as sample:
+        play(STEPS, sample)

@@ -1,61 +1,64 @@
 #include "app/application.h"
 
 #include <QApplication>
-#include <QFile>
 
-#include "app/frmAbout.h"
 #include "app/frmMdi.h"
-#include "app/required_file.h"
-#include "app/web_pages.h"
+#include "app/start_rules.h"
+#include "chart/generate.h"
 #include "display/frmDisplay.h"
 #include "display/frmPalaceAnalysis.h"
 #include "files/chart_file.h"
 #include "files/file_dialogs.h"
 #include "files/picture_export.h"
+#include "files/saved_files.h"
 #include "input/frmMain.h"
 #include "interpret/composer.h"
 
-Application::Application() : input_(std::make_unique<frmMain>(chart_)) { connectInputForm(); }
+Application::Application() : input_(std::make_unique<frmMain>()) {
+    connect(input_.get(), &frmMain::entered, this, &Application::castChart);
+    connect(input_.get(), &frmMain::closed, this, &Application::unloadAll);
+}
 
 Application::~Application() = default;
 
-void Application::start() { input_->show(); }
+void Application::start(const QString& chartFile) {
+    const bool opensFile = !chartFile.isEmpty();
+    if (opensFile) input_->askForTime();
+    input_->show();
+    if (opensFile && !input_->fillFrom(chartFile)) input_->clearEntry();
+}
 
-void Application::connectInputForm() {
-    frmMain* form = input_.get();
-    connect(form, &frmMain::chartGenerated, this, &Application::showChart);
-    connect(form, &frmMain::pageRequested, this, [form](WebPage page) { openPage(page, form); });
-    connect(form, &frmMain::aboutRequested, this, [this, form] { showAbout(form); });
-    connect(form, &frmMain::closed, this, &Application::unloadAll);
+void Application::castChart(const BirthEntry& entry) {
+    const auto date = generateChart(entry, chart_);
+    if (!date) return input_->refuseDate();
+    input_->showDate(*date);
+    showChart({entry.name, *date, entry.hourPosition, entry.minutePosition});
 }
 
 void Application::showChart(const BirthEntry& entry) {
-    frame_ = std::make_unique<frmMdi>();
-    display_ = new frmDisplay;
-    display_->showChart(chart_, entry);
-    frame_->hostChart(display_, [this](QSize room) { return display_->fitInto(room); });
-    connectChart();
-    frame_->showMaximized();
+    auto* display = new frmDisplay{chart_, entry};
+    frame_ = std::make_unique<frmMdi>(display, [display](QSize room) { return display->fitInto(room); });
+    connectChart(display);
+    frame_->showOn(input_->screen());
     input_->hide();
 }
 
-void Application::connectChart() {
-    connect(display_, &frmDisplay::palaceClicked, this, &Application::openPalace);
-    connect(display_, &frmDisplay::showAllRequested, this, &Application::openAllPalaces);
-    connect(display_, &frmDisplay::savePictureRequested, this, &Application::savePicture);
-    connect(display_, &frmDisplay::backRequested, this, &Application::goBack);
-    connect(display_, &frmDisplay::exitRequested, this, &Application::unloadAll);
-    connect(display_, &frmDisplay::tabbedOut, frame_.get(), &frmMdi::focusStrip);
-    connect(display_, &frmDisplay::pageRequested, this,
-            [this](WebPage page) { openPage(page, frame_.get()); });
-    connect(display_, &frmDisplay::aboutRequested, this, [this] { showAbout(frame_.get()); });
-    connect(frame_.get(), &frmMdi::showAllRequested, this, &Application::openAllPalaces);
-    connect(frame_.get(), &frmMdi::savePictureRequested, this, &Application::savePicture);
-    connect(frame_.get(), &frmMdi::backRequested, this, &Application::goBack);
-    connect(frame_.get(), &frmMdi::menuKeyPressed, display_, &frmDisplay::openMenu);
-    connect(frame_.get(), &frmMdi::exitRequested, this, &Application::unloadAll);
-    connect(frame_.get(), &frmMdi::homePageRequested, this,
-            [this] { openPage(WebPage::home, frame_.get()); });
+void Application::connectChart(frmDisplay* display) {
+    frmMdi* frame = frame_.get();
+    const auto savePicture = [display, frame] {
+        exportPicture(display->clientPicture(), converterPath(), frame);
+    };
+    connect(display, &frmDisplay::palaceClicked, this, &Application::openPalace);
+    connect(display, &frmDisplay::showAllRequested, this, &Application::openAllPalaces);
+    connect(display, &frmDisplay::savePictureRequested, frame, savePicture);
+    connect(display, &frmDisplay::backRequested, this, &Application::cmdBack_Click);
+    connect(display, &frmDisplay::exitRequested, frame, &frmMdi::cmdMdiExit_Click);
+    connect(display, &frmDisplay::tabbedOut, frame, &frmMdi::focusStrip);
+    connect(frame, &frmMdi::showAllRequested, this, &Application::openAllPalaces);
+    connect(frame, &frmMdi::savePictureRequested, frame, savePicture);
+    connect(frame, &frmMdi::backRequested, this, &Application::cmdBack_Click);
+    connect(frame, &frmMdi::menuKeyPressed, display, &frmDisplay::openMenu);
+    connect(frame, &frmMdi::closed, this, &Application::unloadAll);
 }
 
 void Application::openPalace(int cell) {
@@ -65,41 +68,28 @@ void Application::openPalace(int cell) {
 void Application::openAllPalaces() { openAnalysis(AnalysisKind::allPalaces, composeAllPalaces(chart_)); }
 
 // Made anew for each opening, and gone when it is closed.
-void Application::openAnalysis(AnalysisKind kind, const std::vector<TextRun>& runs) {
-    frmPalaceAnalysis analysis{kind, frame_.get()};
+void Application::openAnalysis(AnalysisKind kind, const std::vector<TextRun>& palaceRuns) {
+    std::vector<TextRun> runs{introRun()};
+    runs.insert(runs.end(), palaceRuns.begin(), palaceRuns.end());
+    frmPalaceAnalysis analysis{kind, runs, textSize_, frame_.get()};
     connect(&analysis, &frmPalaceAnalysis::saveRequested, this, [this, &analysis] { saveChart(&analysis); });
-    connect(&analysis, &frmPalaceAnalysis::pageRequested, this,
-            [&analysis](WebPage page) { openPage(page, &analysis); });
-    connect(&analysis, &frmPalaceAnalysis::aboutRequested, this, [this, &analysis] { showAbout(&analysis); });
-    analysis.append({introRun()});
-    analysis.append(runs);
+    connect(&analysis, &frmPalaceAnalysis::textSizeChosen, this,
+            [this](int percent) { textSize_ = percent; });
     analysis.exec();
 }
 
 void Application::saveChart(QWidget* parent) {
     const QString path = askWhereToSaveChart(parent);
-    if (!path.isEmpty()) writeChartFile(QFile::encodeName(path).toStdString(), chart_.input);
+    if (!path.isEmpty()) writeFile(path, chartFileBytes(chart_.input));
 }
 
-void Application::savePicture() { exportPicture(display_->clientPicture(), converterPath(), frame_.get()); }
-
-void Application::goBack() {
+// The frame goes later, since it is one of its own buttons or menus that asks for it.
+void Application::cmdBack_Click() {
     input_->clearEntry();
-    closeChart();
-    input_->show();
-}
-
-// Later, since it is the chart's own button or menu that asks for it.
-void Application::closeChart() {
-    display_ = nullptr;
-    frame_->disconnect(this);
     frame_->hide();
     frame_.release()->deleteLater();
-}
-
-void Application::showAbout(QWidget* parent) {
-    frmAbout about{parent};
-    about.exec();
+    chart_.loadCells();
+    input_->show();
 }
 
 void Application::unloadAll() {

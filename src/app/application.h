@@ -1,4 +1,4 @@
-// The wiring of the forms: what each asks for by a signal is done here.
+// The wiring of the forms: it owns the chart, and what each form asks for by a signal is done here.
 #pragma once
 
 #include <QObject>
@@ -8,12 +8,11 @@
 #include "chart/birth_entry.h"
 #include "chart/chart_model.h"
 #include "interpret/text_run.h"
-#include "style/help_menu.h"
 
+class QWidget;
 class frmDisplay;
 class frmMain;
 class frmMdi;
-class frmPalaceAnalysis;
 enum class AnalysisKind;
 
 class Application : public QObject {
@@ -22,27 +21,24 @@ class Application : public QObject {
     Application();
     ~Application() override;
 
-    // Shows the input form.
-    void start();
+    // Shows the input form, filled from a chart file if one is given.
+    void start(const QString& chartFile = {});
 
     // Closes every open form, one after another, and ends the program.
     static void unloadAll();
 
   private:
-    void connectInputForm();
-    void connectChart();
+    void castChart(const BirthEntry& entry);
     void showChart(const BirthEntry& entry);
+    void connectChart(frmDisplay* display);
     void openPalace(int cell);
     void openAllPalaces();
     void openAnalysis(AnalysisKind kind, const std::vector<TextRun>& runs);
     void saveChart(QWidget* parent);
-    void savePicture();
-    void goBack();
-    void closeChart();
-    void showAbout(QWidget* parent);
+    void cmdBack_Click();
 
     ChartModel chart_;
     std::unique_ptr<frmMain> input_;
-    std::unique_ptr<frmMdi> frame_;
-    frmDisplay* display_ = nullptr;  // lives in the frame
+    std::unique_ptr<frmMdi> frame_;  // there while a chart is shown
+    int textSize_ = 100;             // of analyses, in per cent
 };

@@ -1,33 +1,33 @@
 #include "app/frmMdi.h"
 
-#include <QApplication>
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QMdiArea>
 #include <QMdiSubWindow>
-#include <QPushButton>
 #include <QScreen>
-#include <QScrollArea>
-#include <QScrollBar>
 #include <QVBoxLayout>
+#include <algorithm>
+#include <utility>
 
-#include "app/strip_places.h"
-#include "style/link_label.h"
+#include "help/banner_link.h"
+#include "style/controls.h"
 #include "style/look.h"
 
 namespace {
 
-constexpr int buttonWidth = 1215;  // twips
-constexpr int buttonHeight = 390;  // twips
-constexpr int stripMargin = 75;    // twips
+constexpr int pixels(int twips) { return qRound(twips / look::twipsPerPixel); }
 
-int pixels(int twips) { return qRound(twips / look::twipsPerPixel); }
-int twips(int pixelCount) { return qRound(pixelCount * look::twipsPerPixel); }
+constexpr int buttonWidth = 1215;  // twips
+constexpr QSize buttonSize{pixels(buttonWidth), pixels(390)};
+constexpr int stripMargin = pixels(75);
+
+// Room for the strip in two rows, and for as much of a chart as can be read while it scrolls.
+constexpr QSize leastSize{400, 360};
 
 }  // namespace
 
-frmMdi::frmMdi() {
-    setObjectName(QStringLiteral("frmMdi"));
+frmMdi::frmMdi(QWidget* chart, std::function<QSize(QSize)> fit) : fit_(std::move(fit)) {
+    named(this, "frmMdi");
     setWindowTitle(look::productName());
     createStrip();
     area_ = new QMdiArea;
@@ -37,114 +37,133 @@ frmMdi::frmMdi() {
     auto* rows = new QVBoxLayout{content};
     rows->setContentsMargins(0, 0, 0, 0);
     rows->setSpacing(0);
-    setCentralWidget(content);
-    rows->addWidget(stripView_);
+    rows->addWidget(Picture2);
     rows->addWidget(area_);
+    setCentralWidget(content);
+    hostChart(chart);
     MDIForm_Load();
 }
 
 void frmMdi::MDIForm_Load() {
-    // About as large as it will be when it is maximised, with the border of the window that is there now, so
-    // that the chart need not be laid out twice.
-    const QWidget* shown = QApplication::activeWindow();
-    const QSize border = shown == nullptr ? QSize{} : shown->frameSize() - shown->size();
-    resize(screen()->availableSize() - border);
     placeStrip();
+    placeChart();
 }
 
 void frmMdi::createStrip() {
-    Picture2 = new QWidget;
-    Picture2->setObjectName(QStringLiteral("Picture2"));
-    // The strip is as wide as the screen; in a frame that was made smaller, it scrolls.
-    stripView_ = new QScrollArea;
-    stripView_->setFrameShape(QFrame::NoFrame);
-    stripView_->setFocusPolicy(Qt::NoFocus);
-    stripView_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    stripView_->setWidget(Picture2);
-    lblBanner = new LinkLabel{look::productName(), Picture2};
-    lblBanner->setObjectName(QStringLiteral("lblBanner"));
-    QFont title = lblBanner->font();
-    title.setPixelSize(17);
-    title.setBold(true);
-    lblBanner->setFont(title);
-    lblBanner->setAccessibleDescription(tr("Opens the home page"));
+    Picture2 = named(new QWidget, "Picture2");
+    QFont font = look::titleFont();
+    font.setPixelSize(17);
+    lblBanner = new BannerLink{font, this, Picture2};
     lblBanner->adjustSize();
-    connect(lblBanner, &LinkLabel::clicked, this, &frmMdi::homePageRequested);
-    cmdSavePicture = createButton("cmdSavePicture", "Save as &JPG", &frmMdi::savePictureRequested);
-    cmdShowAll = createButton("cmdShowAll", "&Show All", &frmMdi::showAllRequested);
-    cmdBack = createButton("cmdBack", "&Back", &frmMdi::backRequested);
-    cmdMdiExit = createButton("cmdMdiExit", "&Exit", &frmMdi::exitRequested);
+    cmdSavePicture =
+        newButton("cmdSavePicture", "Save as &JPG", this, &frmMdi::savePictureRequested, Picture2);
+    cmdShowAll = newButton("cmdShowAll", "&Show All", this, &frmMdi::showAllRequested, Picture2);
+    cmdBack = newButton("cmdBack", "&Back", this, &frmMdi::backRequested, Picture2);
+    cmdMdiExit = newButton("cmdMdiExit", "&Exit", this, &frmMdi::cmdMdiExit_Click, Picture2);
+    // Their width is fixed by their places, so their text does not grow with the desktop's.
+    for (QPushButton* button : {cmdSavePicture, cmdShowAll, cmdBack, cmdMdiExit}) {
+        QFont small = button->font();
+        small.setPixelSize(11);
+        button->setFont(small);
+    }
 }
 
-// The buttons' width is fixed by their places, so their text does not grow with the desktop's.
-QPushButton* frmMdi::createButton(const char* name, const char* caption, void (frmMdi::*wanted)()) {
-    auto* button = new QPushButton{QString::fromLatin1(caption), Picture2};
-    button->setObjectName(QString::fromLatin1(name));
-    QFont font = button->font();
-    font.setPixelSize(11);
-    button->setFont(font);
-    connect(button, &QPushButton::clicked, this, wanted);
-    return button;
-}
-
-int frmMdi::screenTwips() const { return twips(screen()->size().width()); }
-
-// Places count from the screen, not from the frame. On a screen so narrow that the banner would meet the
-// buttons, the buttons move down to a row of their own.
-void frmMdi::placeStrip() {
-    const StripPlaces places = stripPlaces(screenTwips(), buttonWidth);
-    const int margin = pixels(stripMargin);
-    const int bannerLeft = pixels(centredLeft(screenTwips(), twips(lblBanner->width())));
-    const bool narrow = bannerLeft + lblBanner->width() + margin > pixels(places.cmdSavePicture);
-    const int rowHeight = std::max(pixels(buttonHeight), lblBanner->height());
-    const int buttonTop =
-        margin + (rowHeight - pixels(buttonHeight)) / 2 + (narrow ? lblBanner->height() : 0);
-    lblBanner->move(bannerLeft, margin + (narrow ? 0 : (rowHeight - lblBanner->height()) / 2));
-    const auto place = [buttonTop](QPushButton* button, int left) {
-        button->setGeometry(pixels(left), buttonTop, pixels(buttonWidth), pixels(buttonHeight));
-    };
-    place(cmdSavePicture, places.cmdSavePicture);
-    place(cmdShowAll, places.cmdShowAll);
-    place(cmdBack, places.cmdBack);
-    place(cmdMdiExit, places.cmdMdiExit);
-    Picture2->resize(screen()->size().width(), 2 * margin + rowHeight + (narrow ? lblBanner->height() : 0));
-    const bool scrolls = width() < Picture2->width();
-    const int bar = scrolls ? stripView_->horizontalScrollBar()->sizeHint().height() : 0;
-    stripView_->setFixedHeight(Picture2->height() + bar);
-}
-
-void frmMdi::hostChart(QWidget* chart, std::function<QSize(QSize)> fit) {
-    fit_ = std::move(fit);
+void frmMdi::hostChart(QWidget* chart) {
     chartWindow_ = area_->addSubWindow(chart, Qt::SubWindow | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
                                                   Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint);
     chartWindow_->setAttribute(Qt::WA_DeleteOnClose, false);
-    chartWindow_->setPalette(look::legibleTitle(palette()));
+    chartWindow_->setSystemMenu(nullptr);  // whose keys would end the program
+    chartWindow_->setFocusPolicy(Qt::NoFocus);
     chartWindow_->setWindowIcon(windowIcon());
     chartWindow_->installEventFilter(this);
     area_->viewport()->installEventFilter(this);
-    chartWindow_->show();
+    // The keys of the chart window's menus are heard only while the focus is in that window; here,
+    // everywhere.
+    for (QAction* entry : chart->findChildren<QAction*>()) {
+        if (!entry->shortcut().isEmpty()) addAction(entry);
+    }
     // The chart window takes the focus when it is shown; it belongs to the strip until a person moves it.
     QMetaObject::invokeMethod(cmdShowAll, qOverload<>(&QWidget::setFocus), Qt::QueuedConnection);
 }
 
+// As large as the screen to begin with, so that the chart is laid out once, and fills the screen where no
+// window manager maximises.
+void frmMdi::showOn(QScreen* screen) {
+    setMinimumSize(leastSize.boundedTo(screen->availableSize() - QSize{16, 40}));
+    setScreen(screen);
+    setGeometry(screen->availableGeometry());
+    showMaximized();
+}
+
+// Made smaller for the first time, the frame takes a size that differs from the maximised one. While it is
+// being shown, some window managers take the state away and give it again.
+void frmMdi::changeEvent(QEvent* event) {
+    QMainWindow::changeEvent(event);
+    if (event->type() != QEvent::WindowStateChange || isMaximized() || isMinimized() || !isActiveWindow())
+        return;
+    if (!std::exchange(fillsScreen_, false)) return;
+    const QRect room = screen()->availableGeometry();
+    QRect smaller{QPoint{}, room.size() * 3 / 4};
+    smaller.moveCenter(room.center());
+    setGeometry(smaller);
+}
+
+void frmMdi::cmdMdiExit_Click() { close(); }
+
 void frmMdi::focusStrip(bool first) {
-    if (first) {
-        lblBanner->setFocus(Qt::TabFocusReason);
-    } else {
-        cmdMdiExit->setFocus(Qt::BacktabFocusReason);
-    }
+    first ? lblBanner->setFocus(Qt::TabFocusReason) : cmdMdiExit->setFocus(Qt::BacktabFocusReason);
+}
+
+// How far the frame's inside is from the screen's left edge; where nobody knows, as if it lay in the middle.
+int frmMdi::leftOnScreen() const {
+    const QRect place = screen()->geometry();
+    return placesAreKnown() ? geometry().x() - place.x() : (place.width() - width()) / 2;
+}
+
+// The edge from which the buttons' places count, in the frame: the screen's where the frame reaches it, else
+// the frame's own.
+int frmMdi::rightEdge() const {
+    const bool reaches = placesAreKnown() && frameGeometry().right() >= screen()->geometry().right();
+    return reaches ? screen()->geometry().width() - leftOnScreen() : width();
+}
+
+// The left edge, in the frame, of something of that width that is centred on the screen, but wholly inside
+// the frame.
+int frmMdi::centredOnScreen(int width) const {
+    const int left = (screen()->geometry().width() - width) / 2 - leftOnScreen();
+    return std::max(0, std::min(left, this->width() - width));
+}
+
+// The buttons' distances from the edge are in twips; the middle gap is wider than the others, on purpose.
+// Where the banner would meet the buttons, these move down to a row of their own.
+void frmMdi::placeStrip() {
+    const auto leftAt = [edge = rightEdge()](int distance) { return edge - pixels(buttonWidth + distance); };
+    const int bannerLeft = centredOnScreen(lblBanner->width());
+    const bool narrow = bannerLeft + lblBanner->width() + stripMargin > leftAt(4280);
+    const int rowHeight = std::max(buttonSize.height(), lblBanner->height());
+    const int secondRow = narrow ? lblBanner->height() : 0;
+    const int top = stripMargin + (rowHeight - buttonSize.height()) / 2 + secondRow;
+    lblBanner->move(bannerLeft, stripMargin + (narrow ? 0 : (rowHeight - lblBanner->height()) / 2));
+    cmdSavePicture->setGeometry({{leftAt(4280), top}, buttonSize});
+    cmdShowAll->setGeometry({{leftAt(2900), top}, buttonSize});
+    cmdBack->setGeometry({{leftAt(1500), top}, buttonSize});
+    cmdMdiExit->setGeometry({{leftAt(120), top}, buttonSize});
+    Picture2->setFixedHeight(2 * stripMargin + rowHeight + secondRow);
 }
 
 void frmMdi::placeChart() {
-    if (chartWindow_ == nullptr) return;
     const QSize room = area_->viewport()->size();
     const QMargins border = chartWindow_->contentsMargins();
     const QSize decoration{border.left() + border.right(), border.top() + border.bottom()};
     const QSize size = fit_(room - decoration) + decoration;
-    const int width = std::min(screen()->size().width(), room.width());
-    const int left = pixels(centredLeft(twips(width), twips(size.width())));
     chartWindow_->setFixedSize(size);
-    chartWindow_->move(left, std::max(0, (room.height() - size.height()) / 2));
+    chartWindow_->move(centredOnScreen(size.width()), std::max(0, (room.height() - size.height()) / 2));
+}
+
+void frmMdi::moveEvent(QMoveEvent* event) {
+    QMainWindow::moveEvent(event);
+    placeStrip();
+    placeChart();
 }
 
 void frmMdi::resizeEvent(QResizeEvent* event) {
@@ -154,11 +173,13 @@ void frmMdi::resizeEvent(QResizeEvent* event) {
     centralWidget()->layout()->activate();
 }
 
-// Closing the chart window by its title bar is Exit, as closing the frame is.
+// Closing the chart window by its title bar is Exit, as closing the frame is; a double click on its icon is
+// not.
 bool frmMdi::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == chartWindow_ && event->type() == QEvent::MouseButtonDblClick) return true;
     if (watched == chartWindow_ && event->type() == QEvent::Close) {
         event->ignore();
-        emit exitRequested();
+        cmdMdiExit_Click();
         return true;
     }
     // At once, before the frame is painted at its new size, or all would be painted twice.
@@ -174,5 +195,5 @@ void frmMdi::keyPressEvent(QKeyEvent* event) {
 
 void frmMdi::closeEvent(QCloseEvent* event) {
     event->accept();
-    emit exitRequested();
+    emit closed();
 }

@@ -4,49 +4,54 @@
 #include <QMainWindow>
 #include <functional>
 
-class LinkLabel;
+class BannerLink;
 class QMdiArea;
 class QMdiSubWindow;
 class QPushButton;
-class QScrollArea;
 
 class frmMdi : public QMainWindow {
     Q_OBJECT
   public:
-    frmMdi();
-
     // Takes the chart window in. `fit` is told how much room there is and returns the size that the window
     // takes.
-    void hostChart(QWidget* chart, std::function<QSize(QSize)> fit);
+    frmMdi(QWidget* chart, std::function<QSize(QSize)> fit);
+
+    // Shows the frame maximised on that screen.
+    void showOn(QScreen* screen);
 
     // Puts the focus on the strip's first control, or on its last.
     void focusStrip(bool first);
+
+  public slots:
+    void cmdMdiExit_Click();
 
   signals:
     void savePictureRequested();
     void showAllRequested();
     void backRequested();
-    void exitRequested();
-    void homePageRequested();
+    void closed();
     void menuKeyPressed(int key);  // a letter with Alt that no control of the frame answers to
 
   protected:
+    void changeEvent(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void moveEvent(QMoveEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
     void MDIForm_Load();
     void createStrip();
-    QPushButton* createButton(const char* name, const char* caption, void (frmMdi::*wanted)());
+    void hostChart(QWidget* chart);
     void placeStrip();
     void placeChart();
-    int screenTwips() const;
+    int leftOnScreen() const;
+    int rightEdge() const;
+    int centredOnScreen(int width) const;
 
-    QScrollArea* stripView_;
     QWidget* Picture2;
-    LinkLabel* lblBanner;
+    BannerLink* lblBanner;
     QPushButton* cmdSavePicture;
     QPushButton* cmdShowAll;
     QPushButton* cmdBack;
@@ -54,4 +59,5 @@ class frmMdi : public QMainWindow {
     QMdiArea* area_;
     QMdiSubWindow* chartWindow_ = nullptr;
     std::function<QSize(QSize)> fit_;
+    bool fillsScreen_ = true;  // whatever its state, until it is first made smaller
 };

@@ -1,33 +1,41 @@
 // Palace Lantern: casts a Zi Wei Dou Shu birth chart for one person and explains it in English.
 
 #include <QApplication>
-#include <QPixmapCache>
+#include <QCommandLineParser>
+#include <cstdio>
 
 #include "app/application.h"
-#include "app/required_file.h"
-#include "app/single_instance.h"
-#include "display/chart_accessibility.h"
-#include "input/list_accessibility.h"
-#include "style/link_label.h"
-#include "style/look.h"
+#include "app/prepare_toolkit.h"
+#include "app/start_rules.h"
 #include "style/message.h"
+
+namespace {
+
+// The chart file that the command line names, if it names one. Ends the program where it is to tell
+// something, or where it holds what is not known.
+QString chartFileOf(const QApplication& toolkit) {
+    QCommandLineParser parser;
+    parser.setApplicationDescription(
+        QStringLiteral("Casts a Zi Wei Dou Shu birth chart and explains it in plain English."));
+    parser.addHelpOption();
+    parser.addVersionOption();
+    parser.addPositionalArgument(QStringLiteral("file"), QStringLiteral("A chart file to open."),
+                                 QStringLiteral("[file.plf]"));
+    parser.process(toolkit);
+    const QStringList files = parser.positionalArguments();
+    if (files.size() > 1) {
+        std::fputs("palace-lantern: only one chart file can be opened at a time\n", stderr);
+        std::exit(EXIT_FAILURE);
+    }
+    return files.value(0);
+}
+
+}  // namespace
 
 int main(int argc, char* argv[]) {
     QApplication toolkit{argc, argv};
-    QApplication::setApplicationName(QStringLiteral("palace-lantern"));
-    QApplication::setDesktopFileName(QStringLiteral("palace-lantern"));
-    QApplication::setQuitOnLastWindowClosed(false);
-    // Else the toolkit keeps a picture of each scroll bar that it draws, and every text has one of its own
-    // length.
-    QPixmapCache::setCacheLimit(0);
-    QApplication::setFont(look::textFont(QApplication::font()));
-    QApplication::setPalette(look::legibleSelection(QApplication::palette()));
-    QApplication::setWindowIcon(look::productIcon());
-
-    installListAccessibility();
-    installChartAccessibility();
-    installLinkAccessibility();
-
+    prepareToolkit();
+    const QString file = chartFileOf(toolkit);
     const SingleInstance instance;
     if (instance.anotherIsRunning()) {
         showMessage(nullptr, QMessageBox::Information, QStringLiteral("Application is already running"));
@@ -35,6 +43,6 @@ int main(int argc, char* argv[]) {
     }
     if (!requiredFileIsPresent()) return 1;
     Application application;
-    application.start();
+    application.start(file);
     return QApplication::exec();
 }

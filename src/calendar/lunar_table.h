@@ -6,7 +6,7 @@
 #include <cstddef>
 #include <cstdint>
 
-#include "calendar/date_lists.h"
+#include "calendar/picked_date.h"
 
 namespace lunar_table {
 
@@ -33,7 +33,8 @@ struct Row {
 };
 
 // Kept on purpose, although the usual calendar has it otherwise: 23 March to 20 May 1993 (1 and 2), 5 October
-// to 2 December 1994 (5 and 6), and every gap in the last column.
+// to 2 December 1994 (5 and 6), and every gap in the last column. Days that a month does not have keep the
+// number of its last real day, but those of February 1976 and 1995 carry the number of 1 March already.
 // clang-format off
 inline constexpr std::array<Row, yearCount> rows{{
     {1970, {{{1, Jan, 11}, {8, Jan, 12}, {6, Feb, 1}, {8, Mar, 2}, {6, Apr, 3}, {5, May, 4}, {4, Jun, 5}, {3, Jul, 6}, {2, Aug, 7}, {1, Sep, 8}, {30, Sep, 9}, {30, Oct, 10}, {29, Nov, 11}, {28, Dec, 12}}}, {}},
@@ -42,7 +43,7 @@ inline constexpr std::array<Row, yearCount> rows{{
     {1973, {{{1, Jan, 11}, {4, Jan, 12}, {3, Feb, 1}, {5, Mar, 2}, {3, Apr, 3}, {3, May, 4}, {1, Jun, 5}, {30, Jun, 6}, {30, Jul, 7}, {28, Aug, 8}, {26, Sep, 9}, {26, Oct, 10}, {25, Nov, 11}, {24, Dec, 12}}}, {}},
     {1974, {{{1, Jan, 12}, {23, Jan, 1}, {22, Feb, 2}, {24, Mar, 3}, {22, Apr, 4}, {22, May, 4}, {20, Jun, 5}, {19, Jul, 6}, {18, Aug, 7}, {16, Sep, 8}, {15, Oct, 9}, {14, Nov, 10}, {14, Dec, 11}}}, {{{1, 21, May}}}},
     {1975, {{{1, Jan, 11}, {12, Jan, 12}, {11, Feb, 1}, {13, Mar, 2}, {12, Apr, 3}, {11, May, 4}, {10, Jun, 5}, {10, Jul, 6}, {7, Aug, 7}, {6, Sep, 8}, {5, Oct, 9}, {3, Nov, 10}, {3, Dec, 11}}}, {{{9, 9, Jul}}}},
-    {1976, {{{1, Jan, 12}, {31, Jan, 1}, {1, Mar, 2}, {31, Mar, 3}, {29, Apr, 4}, {29, May, 5}, {27, Jun, 6}, {27, Jul, 7}, {25, Aug, 8}, {23, Oct, 9}, {21, Nov, 10}, {21, Dec, 11}}}, {}},
+    {1976, {{{1, Jan, 12}, {31, Jan, 1}, {30, Feb, 2}, {31, Mar, 3}, {29, Apr, 4}, {29, May, 5}, {27, Jun, 6}, {27, Jul, 7}, {25, Aug, 8}, {23, Oct, 9}, {21, Nov, 10}, {21, Dec, 11}}}, {}},
     {1977, {{{1, Jan, 11}, {19, Jan, 12}, {18, Feb, 1}, {20, Mar, 2}, {18, Apr, 3}, {18, May, 4}, {17, Jun, 5}, {16, Jul, 6}, {15, Aug, 7}, {13, Sep, 8}, {13, Oct, 9}, {11, Nov, 10}, {11, Dec, 11}}}, {}},
     {1978, {{{1, Jan, 11}, {9, Jan, 12}, {7, Feb, 1}, {9, Mar, 2}, {7, Apr, 3}, {7, May, 4}, {6, Jun, 5}, {5, Jul, 6}, {4, Aug, 7}, {3, Sep, 8}, {2, Oct, 9}, {1, Nov, 10}, {30, Nov, 11}, {30, Dec, 12}}}, {}},
     {1979, {{{1, Jan, 12}, {28, Jan, 1}, {27, Feb, 2}, {28, Mar, 3}, {26, Apr, 4}, {26, May, 5}, {24, Jun, 6}, {23, Aug, 7}, {21, Sep, 8}, {21, Oct, 9}, {20, Nov, 10}, {19, Dec, 11}}}, {}},
@@ -61,7 +62,7 @@ inline constexpr std::array<Row, yearCount> rows{{
     {1992, {{{1, Jan, 11}, {5, Jan, 12}, {4, Feb, 1}, {4, Mar, 2}, {3, Apr, 3}, {3, May, 4}, {1, Jun, 5}, {30, Jun, 6}, {30, Jul, 7}, {28, Aug, 8}, {26, Sep, 9}, {26, Oct, 10}, {24, Nov, 11}, {24, Dec, 12}}}, {}},
     {1993, {{{1, Jan, 12}, {23, Jan, 1}, {21, Feb, 2}, {23, Mar, 1}, {22, Apr, 2}, {21, May, 4}, {20, Jun, 5}, {19, Jul, 6}, {18, Aug, 7}, {16, Sep, 8}, {15, Oct, 9}, {14, Nov, 10}, {13, Dec, 11}}}, {}},
     {1994, {{{1, Jan, 11}, {13, Jan, 12}, {10, Feb, 1}, {12, Mar, 2}, {11, Apr, 3}, {11, May, 4}, {9, Jun, 5}, {9, Jul, 6}, {7, Aug, 7}, {6, Sep, 8}, {5, Oct, 5}, {3, Nov, 6}, {3, Dec, 11}}}, {{{12, 12, Jan}}}},
-    {1995, {{{1, Jan, 12}, {31, Jan, 1}, {1, Mar, 2}, {31, Mar, 3}, {30, Apr, 4}, {29, May, 5}, {28, Jun, 6}, {27, Jul, 7}, {26, Aug, 8}, {24, Oct, 9}, {22, Nov, 10}, {22, Dec, 11}}}, {}},
+    {1995, {{{1, Jan, 12}, {31, Jan, 1}, {29, Feb, 2}, {31, Mar, 3}, {30, Apr, 4}, {29, May, 5}, {28, Jun, 6}, {27, Jul, 7}, {26, Aug, 8}, {24, Oct, 9}, {22, Nov, 10}, {22, Dec, 11}}}, {}},
     {1996, {{{1, Jan, 11}, {20, Jan, 12}, {20, Feb, 1}, {19, Mar, 2}, {18, Apr, 3}, {18, May, 4}, {16, Jun, 5}, {16, Jul, 6}, {14, Aug, 7}, {13, Sep, 8}, {12, Oct, 9}, {11, Nov, 10}, {11, Dec, 11}}}, {{{19, 19, Feb}, {17, 17, May}}}},
     {1997, {{{1, Jan, 11}, {9, Jan, 12}, {7, Feb, 1}, {9, Mar, 2}, {7, Apr, 3}, {7, May, 4}, {5, Jun, 5}, {5, Jul, 6}, {3, Aug, 7}, {2, Sep, 8}, {2, Oct, 9}, {31, Oct, 10}, {30, Nov, 11}, {30, Dec, 12}}}, {}},
     {1998, {{{1, Jan, 12}, {28, Jan, 1}, {27, Feb, 2}, {28, Mar, 3}, {26, Apr, 4}, {26, May, 5}, {23, Jul, 6}, {22, Aug, 7}, {21, Sep, 8}, {20, Oct, 9}, {19, Nov, 10}, {19, Dec, 11}}}, {}},
@@ -81,16 +82,6 @@ inline constexpr std::array<Row, yearCount> rows{{
     {2012, {{{1, Jan, 12}, {23, Jan, 1}, {22, Feb, 2}, {22, Mar, 3}, {21, Apr, 4}, {19, Jun, 5}, {19, Jul, 6}, {17, Aug, 7}, {16, Sep, 8}, {15, Oct, 9}, {14, Nov, 10}, {13, Dec, 11}}}, {}},
 }};
 // clang-format on
-
-// In two years the number 2 begins on 1 March, and the days that February does not have carry it already; in
-// all other months the days beyond the end keep the number of the month's last real day.
-struct BeyondFebruary {
-    std::int16_t year;
-    std::int8_t firstDay;
-    std::int8_t number;
-};
-
-inline constexpr std::array<BeyondFebruary, 2> beyondFebruary{{{1976, 30, 2}, {1995, 29, 2}}};
 
 constexpr bool rowsAreSound() {
     int number = rows.front().begins.front().number;

@@ -1,13 +1,13 @@
-// What the input form hands over: the name as typed and the positions of the five lists.
+// What the input form hands over: the name as typed and what is picked in the five lists.
 #pragma once
 
 #include <string>
 
-#include "calendar/date_lists.h"
+#include "calendar/picked_date.h"
 
 struct BirthEntry {
     std::u16string name;
-    DateLists date;
+    PickedDate date;
     int hourPosition = 0;    // 0..23, equal to the hour
     int minutePosition = 0;  // 0..59, equal to the minute
 };

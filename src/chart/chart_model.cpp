@@ -9,8 +9,8 @@ void ChartModel::loadCells() {
 
 void ChartModel::clearCaptions() {
     for (ChartCell& cell : cells) {
-        const Caption branch = cell.lblEarthlyBranches;
-        for (const CaptionField& caption : captionFields) cell.*caption.field = Caption{};
-        cell.lblEarthlyBranches = branch;
+        for (const CaptionField& caption : captionFields) {
+            if (caption.field != &ChartCell::lblEarthlyBranches) cell.*caption.field = Caption{};
+        }
     }
 }

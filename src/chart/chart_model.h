@@ -111,26 +111,26 @@ inline constexpr std::array<FlagField, 15> flagFields{{
     {"lblTianGuan", &ChartCell::lblTianGuan, "Tian Guan"},
 }};
 
-// The stars whose cells the chart records: the fourteen major stars in the order of their placement, then the
-// minor stars that the day stars, the transformations or the analysis look up.
+// The stars, in the order of their placement; the chart records the cell of each.
 // clang-format off
 enum class Star : std::uint8_t {
-    ZiWei, TianJi, TaiYang, WuQu, TianTong, LianZhen,                              // the Zi Wei group
-    TianFu, TaiYin, TanLang, JuMen, TianXiang, TianLiang, QiSha, PoJun,            // the Tian Fu group
-    WenChang, WenQu, DiJie, DiKong, TaiFu, FengGao,                                // the hour stars
-    ZuoFu, YouBi, TianYao, TianXing,                                               // the month stars
-    SanTai, BaZuo, EnGuang, TianGui,                                               // the day stars
-    LuCun, QingYang, TuoLuo, TianKui, TianYueTwo, TianGuan, TianFutwo,             // the year-stem stars
+    ZiWei, TianJi, TaiYang, WuQu, TianTong, LianZhen,                     // the Zi Wei group
+    TianFu, TaiYin, TanLang, JuMen, TianXiang, TianLiang, QiSha, PoJun,   // the Tian Fu group
+    WenChang, WenQu, DiJie, DiKong, TaiFu, FengGao,                       // the hour stars
+    ZuoFu, YouBi, TianYao, TianXing, JieShen, TianWu, TianYue, YinSha,    // the month stars
+    SanTai, BaZuo, EnGuang, TianGui,                                      // the day stars
+    LuCun, QingYang, TuoLuo, TianKui, TianYueTwo, TianGuan, TianFutwo,    // the year-stem stars
+    HuaLu, HuaQuan, Huake, HuaJi,                                         // the transformations
 };
 // clang-format on
-inline constexpr std::size_t starCount = static_cast<std::size_t>(Star::TianFutwo) + 1;
+inline constexpr std::size_t starCount = static_cast<std::size_t>(Star::HuaJi) + 1;
 
 // What a person entered, kept as entered: the midnight rule does not touch it. The chart file is written from
 // it.
 struct ChartInput {
     std::u16string name;  // without blanks at either end
     std::int16_t year = 0;
-    std::string_view month;
+    std::string_view month;  // its English name
     std::int16_t day = 0;
 };
 
@@ -166,6 +166,12 @@ struct ChartModel {
     // Writes a star's caption into the cell and records the cell.
     void place(Star star, Caption ChartCell::*field, const Caption& caption, CellIndex where) {
         cell(where).*field = caption;
+        cellOf(star) = where;
+    }
+
+    // Sets a star's flag in the cell and records the cell.
+    void place(Star star, bool ChartCell::*flag, CellIndex where) {
+        cell(where).*flag = true;
         cellOf(star) = where;
     }
 };

@@ -17,34 +17,32 @@ std::u16string_view trimmed(std::u16string_view name) {
     return name.substr(first, name.find_last_not_of(u' ') - first + 1);
 }
 
-void copyInput(const BirthEntry& entry, ChartInput& input) {
-    input.name = trimmed(entry.name);
-    input.year = static_cast<std::int16_t>(entry.date.year());
-    input.month = entry.date.monthText();
-    input.day = static_cast<std::int16_t>(entry.date.day());
+ChartInput inputOf(const BirthEntry& entry) {
+    return {std::u16string{trimmed(entry.name)}, static_cast<std::int16_t>(entry.date.year()),
+            entry.date.monthText(), static_cast<std::int16_t>(entry.date.day())};
 }
 
 }  // namespace
 
-Generation generateChart(BirthEntry& entry, ChartModel& chart) {
-    copyInput(entry, chart.input);
+std::optional<PickedDate> generateChart(const BirthEntry& entry, ChartModel& chart) {
+    chart.input = inputOf(entry);
     chart.clearCaptions();
     const bool midnight = entry.hourPosition == 0 && entry.minutePosition == 0;
-    if (midnight && !advanceByOneDay(entry.date)) return Generation::dateRefused;
+    const auto date = midnight ? dayAfter(entry.date) : entry.date;
+    if (!date) return std::nullopt;
     chart.doubleHour = doubleHourOf(entry.hourPosition, entry.minutePosition);
-    FindLunarMonth(entry.date);
+    FindLunarMonth(*date);
     chart.lunarMonth = LunarMonth;
-    chart.yearDigit = static_cast<std::int16_t>(entry.date.year() % 10);
+    chart.yearDigit = static_cast<std::int16_t>(date->year() % 10);
     placeLifePalace(chart);
     placeBodyPalace(chart);
     placePalaceStems(chart);
     placeElement(chart);
-    placeZiWei(chart, entry.date.dayPosition);
+    placeZiWei(chart, date->dayPosition);
     placeMajorStars(chart);
     placeHourStars(chart);
     placeMonthStars(chart);
-    raiseMonthFlags(chart);
-    placeDayStars(chart, entry.date.day());
-    raiseYearStemStars(chart);
-    return Generation::done;
+    placeDayStars(chart, date->day());
+    placeYearStemStars(chart);
+    return date;
 }

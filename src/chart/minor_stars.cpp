@@ -1,5 +1,7 @@
 #include "chart/minor_stars.h"
 
+#include <span>
+
 namespace {
 
 // A star counted round the square: its cell is `from` plus the number of the hour or month, or minus it.
@@ -29,7 +31,7 @@ constexpr std::array<CountedStar, 4> monthStars{{
     {Star::TianXing, "Tian Xing", &ChartCell::lblTianXing, 6, +1},  // m + 6
 }};
 
-// The cells of the four month stars that are flags, for the months 1 to 12. Tian Yue follows no rule.
+// The cells of the month stars that are flags, for the months 1 to 12. Tian Yue follows no rule.
 struct MonthFlags {
     int jieShen;
     int tianWu;
@@ -68,8 +70,7 @@ constexpr std::array<DayStar, 4> dayStars{{
     {Star::TianGui, "Tian Gui", &ChartCell::lblTianGui, Star::WenQu, +1, -2},     // Wen Qu + r - 2
 }};
 
-template <std::size_t count>
-void placeCounted(ChartModel& chart, const std::array<CountedStar, count>& stars, int number) {
+void placeCounted(ChartModel& chart, std::span<const CountedStar> stars, int number) {
     for (const CountedStar& star : stars) {
         chart.place(star.star, star.field, star.text, CellIndex{star.from + star.direction * number});
     }
@@ -79,15 +80,14 @@ void placeCounted(ChartModel& chart, const std::array<CountedStar, count>& stars
 
 void placeHourStars(ChartModel& chart) { placeCounted(chart, hourStars, chart.doubleHour); }
 
-void placeMonthStars(ChartModel& chart) { placeCounted(chart, monthStars, chart.lunarMonth); }
-
-void raiseMonthFlags(ChartModel& chart) {
-    if (chart.lunarMonth < 1) return;
+void placeMonthStars(ChartModel& chart) {
+    placeCounted(chart, monthStars, chart.lunarMonth);
+    if (chart.lunarMonth == 0) return;
     const MonthFlags& cells = monthFlags[static_cast<std::size_t>(chart.lunarMonth - 1)];
-    chart.cell(CellIndex{cells.jieShen}).lblJieShen = true;
-    chart.cell(CellIndex{cells.tianWu}).lblTianWu = true;
-    chart.cell(CellIndex{cells.tianYue}).lblTianYue = true;
-    chart.cell(CellIndex{cells.yinSha}).lblYinSha = true;
+    chart.place(Star::JieShen, &ChartCell::lblJieShen, CellIndex{cells.jieShen});
+    chart.place(Star::TianWu, &ChartCell::lblTianWu, CellIndex{cells.tianWu});
+    chart.place(Star::TianYue, &ChartCell::lblTianYue, CellIndex{cells.tianYue});
+    chart.place(Star::YinSha, &ChartCell::lblYinSha, CellIndex{cells.yinSha});
 }
 
 void placeDayStars(ChartModel& chart, int day) {

@@ -3,5 +3,5 @@
 
 #include "chart/chart_model.h"
 
-// By the chart's year digit and its recorded star cells; needs every other star placed. Only sets flags.
-void raiseYearStemStars(ChartModel& chart);
+// By the chart's year digit and its recorded star cells; needs every other star placed. All are flags.
+void placeYearStemStars(ChartModel& chart);

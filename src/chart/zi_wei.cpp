@@ -1,7 +1,6 @@
 #include "chart/zi_wei.h"
 
 #include <algorithm>
-#include <optional>
 
 namespace {
 
@@ -44,18 +43,14 @@ constexpr std::array<std::array<Caption, elementNames.size()>, 30> ziWeiBranches
 }};
 // clang-format on
 
-std::optional<Caption> branchFor(const Caption& element, int dayPosition) {
-    const auto column = std::find(elementNames.begin(), elementNames.end(), element);
-    if (column == elementNames.end() || dayPosition >= static_cast<int>(ziWeiBranches.size()))
-        return std::nullopt;
-    return ziWeiBranches[static_cast<std::size_t>(dayPosition)]
-                        [static_cast<std::size_t>(column - elementNames.begin())];
-}
-
 }  // namespace
 
 void placeZiWei(ChartModel& chart, int dayPosition) {
-    if (const auto branch = branchFor(chart.lblElement, dayPosition)) chart.ziWeiBranch = *branch;
+    const auto element = std::ranges::find(elementNames, chart.lblElement) - elementNames.begin();
+    const auto day = static_cast<std::size_t>(dayPosition);
+    if (day < ziWeiBranches.size()) {
+        chart.ziWeiBranch = ziWeiBranches[day].at(static_cast<std::size_t>(element));
+    }
     for (const CellIndex cell : allCells) {
         Caption& text = chart.cell(cell).lblEarthlyBranches;
         if (text != chart.ziWeiBranch) continue;

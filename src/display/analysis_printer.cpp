@@ -1,6 +1,8 @@
 #include "display/analysis_printer.h"
 
 #include <QAbstractTextDocumentLayout>
+#include <QDir>
+#include <QLineEdit>
 #include <QPageLayout>
 #include <QPainter>
 #include <QPrintDialog>
@@ -9,20 +11,27 @@
 #include <QTextBlock>
 #include <QTextCursor>
 #include <QTextDocumentFragment>
-#include <QTextEdit>
 #include <cmath>
+#include <memory>
+
+#include "display/styled_text.h"
+#include "style/controls.h"
 
 namespace {
 
 constexpr QMarginsF paperMargins{20, 18, 20, 18};  // millimetres
 
-// The details line ends in ":-" as the headings do, but its text follows as a paragraph of its own.
-bool announcesNext(const QTextBlock& block) { return block.text().trimmed().endsWith(QStringLiteral(":-")); }
+bool isEmpty(const QTextBlock& block) { return block.text().trimmed().isEmpty(); }
+
+// The line that tells of the stars ends what is above it, and never begins a page.
+bool endsWhatIsAbove(const QTextBlock& block) {
+    return block.text().trimmed().endsWith(QStringLiteral(":-"));
+}
 
 QTextBlock previousWithText(QTextBlock block) {
     do {
         block = block.previous();
-    } while (block.isValid() && block.text().trimmed().isEmpty());
+    } while (block.isValid() && isEmpty(block));
     return block;
 }
 
@@ -35,14 +44,14 @@ bool isTorn(double top, double bottom, double pageHeight) {
     return fitsOnPage && std::floor(top / pageHeight) != std::floor((bottom - 1) / pageHeight);
 }
 
-// The toolkit breaks pages between any two lines. A paragraph that would be torn, with the line that
-// announces it, begins the next page instead; what comes after moves along.
+// The toolkit breaks pages between any two lines. A paragraph that would be torn, or parted from the line
+// that ends it, begins the next page instead; what comes after moves along.
 void keepParagraphsWhole(QTextDocument& document) {
     const double pageHeight = document.pageSize().height();
     for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
-        if (block.text().trimmed().isEmpty()) continue;
+        if (isEmpty(block)) continue;
         const QTextBlock before = previousWithText(block);
-        const QTextBlock first = before.isValid() && announcesNext(before) ? before : block;
+        const QTextBlock first = before.isValid() && endsWhatIsAbove(block) ? before : block;
         if (!isTorn(placeOf(first).top(), placeOf(block).bottom(), pageHeight)) continue;
         QTextBlockFormat format = first.blockFormat();
         format.setPageBreakPolicy(QTextFormat::PageBreak_AlwaysBefore);
@@ -51,16 +60,47 @@ void keepParagraphsWhole(QTextDocument& document) {
     }
 }
 
-}  // namespace
+// Blank lines at the end make no page.
+int pagesWithText(const QTextDocument& document) {
+    QTextBlock last = document.lastBlock();
+    if (isEmpty(last)) last = previousWithText(last);
+    return last.isValid() ? static_cast<int>((placeOf(last).bottom() - 1) / document.pageSize().height()) + 1
+                          : 0;
+}
 
-std::unique_ptr<QTextDocument> printedPart(const QTextEdit& text) {
+std::unique_ptr<QTextDocument> printedPart(const std::vector<TextRun>& runs, int start, int end) {
+    auto whole = std::make_unique<QTextDocument>();
+    fillWithRuns(*whole, runs, 100);
+    if (start == end) return whole;
+    QTextCursor cursor{whole.get()};
+    cursor.setPosition(start);
+    cursor.setPosition(end, QTextCursor::KeepAnchor);
     auto part = std::make_unique<QTextDocument>();
-    part->setDefaultFont(text.document()->defaultFont());
-    QTextCursor{part.get()}.insertFragment(text.textCursor().hasSelection()
-                                               ? text.textCursor().selection()
-                                               : QTextDocumentFragment{text.document()});
+    QTextCursor{part.get()}.insertFragment(cursor.selection());
     return part;
 }
+
+// Controls of the dialog that would promise what is not done: pages by number, and their order. QPrintDialog
+// of Qt 6.4 shows some of them whatever its options say; under a parent that is never shown they are not,
+// either.
+void takeAway(QPrintDialog& dialog, QWidget& hidden) {
+    const auto* options = dialog.findChild<QWidget*>(QStringLiteral("copiesTab"));
+    if (options == nullptr) return;
+    for (const char* name : {"printRange", "from", "label_3", "to", "pagesRadioButton", "pagesLineEdit",
+                             "printCurrentPage", "pageSetLabel", "pageSetCombo", "reverse"}) {
+        if (auto* control = options->findChild<QWidget*>(latin(name))) control->setParent(&hidden);
+    }
+}
+
+// A file to print to is proposed by the toolkit's dialog on some platforms only; on the others, its folder
+// is.
+void proposeFile(QPrintDialog& dialog, const QString& name) {
+    auto* box = dialog.findChild<QLineEdit*>(QStringLiteral("filename"));
+    if (box != nullptr && QFileInfo{box->text()}.isDir())
+        box->setText(QDir{box->text()}.filePath(name + QStringLiteral(".pdf")));
+}
+
+}  // namespace
 
 void printOnPaper(const QTextDocument& text, QPrinter& printer) {
     const std::unique_ptr<QTextDocument> paper{text.clone()};
@@ -71,7 +111,7 @@ void printOnPaper(const QTextDocument& text, QPrinter& printer) {
     keepParagraphsWhole(*paper);
     QPainter painter;
     if (!painter.begin(&printer)) return;
-    for (int number = 0; number < paper->pageCount(); ++number) {
+    for (int number = 0; number < pagesWithText(*paper); ++number) {
         if (number > 0 && !printer.newPage()) return;
         // One dot less than the page, or a line at the top of the next one would count as part of it.
         const QRectF view{0, number * page.height(), page.width(), page.height() - 1};
@@ -82,11 +122,12 @@ void printOnPaper(const QTextDocument& text, QPrinter& printer) {
     }
 }
 
-void printAnalysis(const QTextEdit& text, QWidget* parent) {
+void printAnalysis(const std::vector<TextRun>& runs, int start, int end, QWidget* parent) {
     QPrinter printer{QPrinter::HighResolution};
     printer.setPageMargins(paperMargins, QPageLayout::Millimeter);
     printer.setDocName(QStringLiteral("Palace Lantern"));
-    const bool selected = text.textCursor().hasSelection();
+    const bool selected = start != end;
+    QWidget hidden;
     QPrintDialog dialog{&printer, parent};
     dialog.setOption(QAbstractPrintDialog::PrintPageRange, false);
     dialog.setOption(QAbstractPrintDialog::PrintCurrentPage, false);
@@ -94,5 +135,7 @@ void printAnalysis(const QTextEdit& text, QWidget* parent) {
     dialog.setPrintRange(selected ? QAbstractPrintDialog::Selection : QAbstractPrintDialog::AllPages);
     // What is selected is what is printed, so the dialog must not promise the whole beside it.
     if (auto* all = dialog.findChild<QRadioButton*>(QStringLiteral("printAll"))) all->setEnabled(!selected);
-    if (dialog.exec() == QDialog::Accepted) printOnPaper(*printedPart(text), printer);
+    takeAway(dialog, hidden);
+    proposeFile(dialog, printer.docName());
+    if (dialog.exec() == QDialog::Accepted) printOnPaper(*printedPart(runs, start, end), printer);
 }

@@ -2,19 +2,17 @@
 #pragma once
 
 #include <QTextDocument>
-#include <memory>
+#include <vector>
+
+#include "interpret/text_run.h"
 
 class QPrinter;
-class QTextEdit;
 class QWidget;
 
-// Asks for a printer and prints the selection, if there is one, or else the whole text. A cancel and every
-// error are passed over in silence.
-void printAnalysis(const QTextEdit& text, QWidget* parent);
+// Asks for a printer and prints the characters from `start` up to `end`, or the whole text where these are
+// the same, in the size that the runs have. A cancel and every error are passed over in silence.
+void printAnalysis(const std::vector<TextRun>& runs, int start, int end, QWidget* parent);
 
-// Prints the text with decent margins; a paragraph that fits on a page is not torn, and a line that announces
-// the next paragraph goes with it.
+// Prints the text with decent margins; a paragraph that fits on a page is not torn, and a line that ends what
+// is above it stays there.
 void printOnPaper(const QTextDocument& text, QPrinter& printer);
-
-// The part of the text that is to be printed: the selection with its formatting, or all of it.
-std::unique_ptr<QTextDocument> printedPart(const QTextEdit& text);

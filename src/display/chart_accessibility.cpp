@@ -3,7 +3,9 @@
 #include <QAccessibleWidget>
 #include <QScrollArea>
 
-#include "display/cell_square.h"
+#include "display/chart_square.h"
+#include "display/lbl_cover.h"
+#include "style/controls.h"
 
 namespace {
 
@@ -24,7 +26,10 @@ class SquareInterface : public QAccessibleWidget {
   private:
     QObjectList spoken() const {
         QObjectList children = widget()->children();
-        children.removeIf([](QObject* child) { return qobject_cast<CellSquare*>(child) != nullptr; });
+        children.removeIf([](QObject* child) {
+            return child->objectName() != QStringLiteral("Frame2") &&
+                   qobject_cast<LblCover*>(child) == nullptr;
+        });
         return children;
     }
 };
@@ -35,10 +40,6 @@ QAccessibleInterface* createInterface(const QString&, QObject* object) {
         return new QAccessibleWidget{area, QAccessible::Client};
     auto* square = qobject_cast<ChartSquare*>(object);
     return square == nullptr ? nullptr : new SquareInterface{square};
-}
-
-QString latin(std::string_view text) {
-    return QString::fromLatin1(text.data(), static_cast<qsizetype>(text.size()));
 }
 
 // What stands below the line break of a caption that was extended, or the whole of one that was not.

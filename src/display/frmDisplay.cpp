@@ -1,14 +1,16 @@
 #include "display/frmDisplay.h"
 
-#include <QEvent>
-#include <QMenuBar>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QVBoxLayout>
+#include <algorithm>
 
-#include "display/cell_square.h"
 #include "display/chart_accessibility.h"
+#include "display/chart_square.h"
 #include "display/elided_label.h"
+#include "display/lbl_cover.h"
+#include "help/help_menu.h"
+#include "style/controls.h"
 #include "style/look.h"
 
 namespace {
@@ -17,51 +19,20 @@ constexpr auto backgroundHint = "Hold Your Mouse Button On The Palace";
 // "Abut" is the system's own word.
 constexpr auto cellHint = "Click To Know More Abut This Palace And Stars";
 
-QString latin(std::string_view text) {
-    return QString::fromLatin1(text.data(), static_cast<qsizetype>(text.size()));
-}
+// The minor stars' letters are the chart's own, which their labels need not be told.
+bool inheritsFont(LabelKind kind) { return kind == LabelKind::minor || kind == LabelKind::transformation; }
 
-// A label shows CR LF as one line break.
-QString labelText(const Caption& caption) {
-    return latin(caption.text()).replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
-}
-
-const QColor& colourOf(CellStyle style) {
-    switch (style) {
-        case CellStyle::quiet:
-            return look::quiet;
-        case CellStyle::palace:
-        case CellStyle::body:
-            return look::brown;
-        case CellStyle::tianFuGroup:
-            return look::blue;
-        case CellStyle::ziWeiGroup:
-            return look::green;
-        case CellStyle::transformation:
-            return look::red;
-        case CellStyle::minor:
-            break;
-    }
-    return look::ink;
-}
-
-void colour(QWidget* widget, const QColor& text) {
+void colour(QWidget* widget, LabelKind kind) {
     QPalette palette;
-    palette.setColor(QPalette::WindowText, text);
+    palette.setColor(QPalette::WindowText, lookOf(kind).colour);
     widget->setPalette(palette);
 }
 
-std::size_t indexOfCellLabel(std::string_view name) {
-    const auto table = cellLabels();
-    for (std::size_t i = 0; i < table.size(); ++i) {
-        if (table[i].name == name) return i;
-    }
-    return table.size();
+QFont scaledFont(const ChartScale& scale, LabelKind kind) {
+    return look::chartFont(scale.fontPixels(lookOf(kind).pixelSize), lookOf(kind).bold);
 }
 
-QFont scaledFont(const ChartScale& scale, LabelStyle style) {
-    return look::chartFont(scale.fontPixels(style.pixelSize), style.bold);
-}
+bool isOneLine(const CellLabel& label) { return label.longestText.find('\n') == std::string_view::npos; }
 
 // The room that a text needs in a font. Lines that follow one another are each rounded up to whole pixels; a
 // line by itself is not, so that it stays clear of the label below it.
@@ -77,31 +48,15 @@ QSize textSize(const QFont& font, std::string_view text) {
 
 }  // namespace
 
-frmDisplay::frmDisplay() {
-    setObjectName(QStringLiteral("frmDisplay"));
+frmDisplay::frmDisplay(const ChartModel& chart, const BirthEntry& entry) {
+    named(this, "frmDisplay");
     setWindowTitle(tr("Palace Lantern Chart"));
-    gfg = new QWidget;
-    gfg->setObjectName(QStringLiteral("gfg"));
-    QPalette papers;
-    papers.setColor(QPalette::Window, look::ground);
-    papers.setColor(QPalette::WindowText, look::ink);
-    gfg->setPalette(papers);
-    gfg->setAutoFillBackground(true);
-    Frame1 = new ChartSquare{gfg};
-    Frame1->setAccessibleName(tr("Chart"));
-    Frame1->setObjectName(QStringLiteral("Frame1"));
-    createCells();
+    createGround();
+    for (const CellIndex cell : allCells) createCell(cell, chart.cell(cell));
+    Frame2 = named(new QWidget{Frame1}, "Frame2");
+    for (const CellIndex cell : allCells) createCover(cell, chart);
     createCentre();
-    lblCaption = new QLabel{gfg};
-    lblCaption->setObjectName(QStringLiteral("lblCaption"));
-    lblCaption->setTextFormat(Qt::PlainText);
-    lblCaption->setText(QLatin1String{backgroundHint});
-    lblCaption->setAlignment(Qt::AlignCenter);
-    colour(lblCaption, look::brown);
-    for (QWidget* background : std::initializer_list<QWidget*>{gfg, Frame1, Frame2}) {
-        background->setMouseTracking(true);
-        background->installEventFilter(this);
-    }
+    fillHeader(chart, entry);
 
     scroll_ = new QScrollArea;
     scroll_->setFrameShape(QFrame::NoFrame);
@@ -121,24 +76,29 @@ frmDisplay::~frmDisplay() {
     for (LblCover* cover : lblCover) cover->disconnect(this);
 }
 
+void frmDisplay::createGround() {
+    gfg = named(new QWidget, "gfg");
+    QPalette papers;
+    papers.setColor(QPalette::Window, look::ground);
+    papers.setColor(QPalette::WindowText, look::ink);
+    gfg->setPalette(papers);
+    gfg->setAutoFillBackground(true);
+    Frame1 = named(new ChartSquare{gfg}, "Frame1");
+    Frame1->setAccessibleName(tr("Chart"));
+    lblCaption = createLabel(gfg, "lblCaption", LabelKind::hint);
+    lblCaption->setText(latin(backgroundHint));
+    lblCaption->setAlignment(Qt::AlignCenter);
+}
+
 void frmDisplay::createMenus() {
-    menus_ = new QMenuBar{this};
-    menus_->setNativeMenuBar(false);
-    QMenu* mnuFile = menus_->addMenu(tr("&File"));
-    mnuFile->setObjectName(QStringLiteral("mnuFile"));
-    const auto addEntry = [this, mnuFile](const char* name, const char* words, void (frmDisplay::*wanted)()) {
-        mnuFile->addAction(QString::fromLatin1(words), this, wanted, Qt::QueuedConnection)
-            ->setObjectName(QString::fromLatin1(name));
-    };
-    addEntry("mnuShowAll", "Show All", &frmDisplay::showAllRequested);
-    addEntry("mnuSavejpg", "Save as JPG", &frmDisplay::savePictureRequested);
+    menus_ = newMenuBar(this);
+    auto* mnuFile = named(menus_->addMenu(tr("&File")), "mnuFile");
+    addEntry(mnuFile, "mnuShowAll", "Show All", this, &frmDisplay::showAllRequested);
+    addEntry(mnuFile, "mnuSavejpg", "Save as JPG", this, &frmDisplay::savePictureRequested);
     mnuFile->addSeparator();
-    addEntry("mnuFileBack", "&Back", &frmDisplay::backRequested);
-    addEntry("mnuExit", "E&xit", &frmDisplay::exitRequested);
-    auto* mnuHelp = new HelpMenu{menus_};
-    menus_->addMenu(mnuHelp);
-    connect(mnuHelp, &HelpMenu::pageRequested, this, &frmDisplay::pageRequested);
-    connect(mnuHelp, &HelpMenu::aboutRequested, this, &frmDisplay::aboutRequested);
+    addEntry(mnuFile, "mnuFileBack", "&Back", this, &frmDisplay::backRequested);
+    addEntry(mnuFile, "mnuExit", "E&xit", this, &frmDisplay::exitRequested);
+    menus_->addMenu(new HelpMenu{this});
 }
 
 void frmDisplay::openMenu(int key) {
@@ -148,110 +108,69 @@ void frmDisplay::openMenu(int key) {
     }
 }
 
-void frmDisplay::createCells() {
-    const auto table = cellLabels();
-    for (const CellIndex cell : allCells) {
-        auto* square = new CellSquare{cell, Frame1};
-        Square[cell.index()] = square;
-        for (std::size_t i = 0; i < table.size(); ++i) {
-            auto* label = new QLabel{square};
-            label->setObjectName(latin(table[i].name) + QStringLiteral("(%1)").arg(cell.value()));
-            label->setTextFormat(Qt::PlainText);
-            const bool oneLine = table[i].longestText.find('\n') == std::string_view::npos;
-            // What a line can spare is above its letters.
-            label->setAlignment(Qt::AlignLeft | (oneLine ? Qt::AlignBottom : Qt::AlignTop));
-            if (table[i].style != CellStyle::minor) colour(label, colourOf(table[i].style));
-            labels_[cell.index()][i] = label;
-        }
+QLabel* frmDisplay::createLabel(QWidget* parent, std::string_view name, LabelKind kind) {
+    QLabel* label = kind == LabelKind::name ? new ElidedLabel{parent} : new QLabel{parent};
+    label->setTextFormat(Qt::PlainText);
+    if (kind != LabelKind::minor) colour(label, kind);
+    return named(label, name);
+}
+
+void frmDisplay::createCell(CellIndex cell, const ChartCell& content) {
+    const std::string index = "(" + std::to_string(cell.value()) + ")";
+    QWidget* square = named(new QWidget{Frame1}, "Square" + index);
+    Square[cell.index()] = square;
+    CellLabels& labels = labels_[cell.index()];
+    for (std::size_t i = 0; i < labels.size(); ++i) {
+        labels[i] = createLabel(square, std::string{cellLabels[i].name} + index, cellLabels[i].kind);
+        // What a line can spare is above its letters.
+        labels[i]->setAlignment(Qt::AlignLeft | (isOneLine(cellLabels[i]) ? Qt::AlignBottom : Qt::AlignTop));
     }
-    Frame2 = new QWidget{Frame1};
-    Frame2->setObjectName(QStringLiteral("Frame2"));
-    for (const CellIndex cell : allCells) {
-        auto* cover = new LblCover{cell, Frame1};
-        lblCover[cell.index()] = cover;
-        connect(cover, &LblCover::clicked, this, [this, cell] { emit palaceClicked(cell.value()); });
-        connect(cover, &LblCover::pointedAt, this, &frmDisplay::lblCover_Hover);
-        connect(cover, &LblCover::focused, this, &frmDisplay::makeTabStop);
-        connect(cover, &LblCover::left, this, &frmDisplay::background_Hover);
-        connect(cover, &LblCover::stepWanted, this,
-                [this, cell](int columnStep, int rowStep) { moveFocus(cell, columnStep, rowStep); });
+    for (std::size_t i = 0; i < captionFields.size(); ++i) {
+        const Caption& caption = content.*captionFields[i].field;
+        if (!caption.empty()) labels[captionLabels[i]]->setText(latinLines(caption.text()));
     }
+    for (std::size_t i = 0; i < flagFields.size(); ++i) {
+        labels[flagLabels[i]]->setText(latin(flagFields[i].text));
+        labels[flagLabels[i]]->setVisible(content.*flagFields[i].field);
+    }
+    holdsZiWei_[cell.index()] = content.lblEarthlyBranches != branchNames[cell.index()];
+    if (holdsZiWei_[cell.index()]) colour(labels[rowOf(cellLabels, "lblEarthlyBranches")], LabelKind::ziWei);
+}
+
+void frmDisplay::createCover(CellIndex cell, const ChartModel& chart) {
+    auto* cover = new LblCover{cell, Frame1};
+    lblCover[cell.index()] = cover;
+    cover->setAccessibleName(spokenCell(chart, cell));
+    connectControl(cover, &LblCover::clicked, this,
+                   [cell](frmDisplay* form) { emit form->palaceClicked(cell.value()); });
+    connect(cover, &LblCover::pointedAtOrLeft, this, &frmDisplay::showHint);
+    connect(cover, &LblCover::focused, this,
+            [this, cover](Qt::FocusReason reason) { takeFocus(cover, reason); });
+    connect(cover, &LblCover::stepWanted, this,
+            [this, cell](int columnStep, int rowStep) { moveFocus(cell, columnStep, rowStep); });
 }
 
 void frmDisplay::createCentre() {
-    for (const CentreLabel& place : centreLabels()) {
-        QLabel* label = place.style == CentreStyle::name ? new ElidedLabel{Frame2} : new QLabel{Frame2};
-        label->setObjectName(latin(place.name));
-        label->setTextFormat(Qt::PlainText);
-        label->setText(latin(place.prompt));
-        label->setAlignment(place.centred ? Qt::AlignCenter : Qt::AlignLeft | Qt::AlignVCenter);
-        colour(label, place.style == CentreStyle::prompt    ? look::quiet
-                      : place.style == CentreStyle::heading ? look::brown
-                                                            : look::blue);
-        centre_.push_back(label);
+    for (std::size_t i = 0; i < centreLabels.size(); ++i) {
+        const CentreLabel& place = centreLabels[i];
+        centre_[i] = createLabel(Frame2, place.name, place.kind);
+        centre_[i]->setText(latin(place.prompt));
+        centre_[i]->setAlignment(place.centred ? Qt::AlignCenter : Qt::AlignLeft | Qt::AlignVCenter);
     }
-}
-
-QLabel* frmDisplay::centreLabel(std::string_view name) const {
-    const auto table = centreLabels();
-    for (std::size_t i = 0; i < table.size(); ++i) {
-        if (table[i].name == name) return centre_[i];
-    }
-    return nullptr;
-}
-
-void frmDisplay::showChart(const ChartModel& chart, const BirthEntry& entry) {
-    fillHeader(chart, entry);
-    fillCells(chart);
 }
 
 void frmDisplay::fillHeader(const ChartModel& chart, const BirthEntry& entry) {
-    centreLabel("lblName")->setText(QString::fromStdU16String(entry.name));
-    centreLabel("lblDateOfBirth")
-        ->setText(QStringLiteral("%1/%2/%3")
-                      .arg(latin(entry.date.monthText()))
-                      .arg(entry.date.day())
-                      .arg(entry.date.year()));
-    centreLabel("lblTimeOfBirth")
-        ->setText(QStringLiteral("%1:%2").arg(entry.hourPosition).arg(entry.minutePosition));
-    centreLabel("lblElement")->setText(latin(chart.lblElement.text()));
-    centreLabel("lblYear")->setText(QString::number(entry.date.year()));
-    centreLabel("lblMonth")->setText(QString::number(chart.lunarMonth));
-    centreLabel("lblLifePalaceat")->setText(latin(chart.lblLifePalaceat.text()));
-    centreLabel("lblBodyPalaceat")->setText(latin(chart.lblBodyPalaceat.text()));
-}
-
-void frmDisplay::fillCells(const ChartModel& chart) {
-    for (const CaptionField& caption : captionFields) {
-        const std::size_t label = indexOfCellLabel(caption.name);
-        for (const CellIndex cell : allCells) {
-            const Caption& text = chart.cell(cell).*caption.field;
-            if (!text.empty()) labels_[cell.index()][label]->setText(labelText(text));
-        }
-    }
-    for (const CellIndex cell : allCells) {
-        holdsZiWei_[cell.index()] = chart.cell(cell).lblEarthlyBranches != branchNames[cell.index()];
-    }
-    leadWithZiWei();
-    for (const FlagField& flag : flagFields) {
-        const std::size_t label = indexOfCellLabel(flag.name);
-        for (const CellIndex cell : allCells) {
-            labels_[cell.index()][label]->setText(latin(flag.text));
-            labels_[cell.index()][label]->setVisible(chart.cell(cell).*flag.field);
-        }
-    }
-    for (const CellIndex cell : allCells) lblCover[cell.index()]->setAccessibleName(spokenCell(chart, cell));
-}
-
-// A branch is quiet, but where Zi Wei stands above it, the label leads like the other major stars.
-void frmDisplay::leadWithZiWei() {
-    const std::size_t branch = indexOfCellLabel("lblEarthlyBranches");
-    for (const CellIndex cell : allCells) {
-        if (!holdsZiWei_[cell.index()]) continue;
-        QLabel* label = labels_[cell.index()][branch];
-        label->setFont(scaledFont(scale_, {styleOf(CellStyle::quiet).pixelSize, true}));
-        colour(label, look::green);
-    }
+    const auto& [name, date, hour, minute] = entry;
+    const QString day =
+        QStringLiteral("%1/%2/%3").arg(latin(date.monthText())).arg(date.day()).arg(date.year());
+    centre_[rowOf(centreLabels, "lblName")]->setText(QString::fromStdU16String(name));
+    centre_[rowOf(centreLabels, "lblDateOfBirth")]->setText(day);
+    centre_[rowOf(centreLabels, "lblTimeOfBirth")]->setText(QStringLiteral("%1:%2").arg(hour).arg(minute));
+    centre_[rowOf(centreLabels, "lblElement")]->setText(latin(chart.lblElement.text()));
+    centre_[rowOf(centreLabels, "lblYear")]->setText(QString::number(date.year()));
+    centre_[rowOf(centreLabels, "lblMonth")]->setText(QString::number(chart.lunarMonth));
+    centre_[rowOf(centreLabels, "lblLifePalaceat")]->setText(latin(chart.lblLifePalaceat.text()));
+    centre_[rowOf(centreLabels, "lblBodyPalaceat")]->setText(latin(chart.lblBodyPalaceat.text()));
 }
 
 QSize frmDisplay::fitInto(const QSize& room) {
@@ -273,50 +192,59 @@ void frmDisplay::applyScale(ChartScale scale) {
     gfg->resize(scale.chartSize());
     Frame1->move(scale.margin(), scale.margin());
     Frame1->setScale(scale);
-    const int hintTop = Frame1->geometry().bottom() + 1 + scale.margin() / 2;
+    const int hintTop = scale.margin() + scale.squareSize().height() + scale.margin() / 2;
     lblCaption->setGeometry(0, hintTop, gfg->width(), scale.pixels(hintHeight));
-    lblCaption->setFont(scaledFont(scale, {11, false}));
+    lblCaption->setFont(scaledFont(scale, LabelKind::hint));
     placeCells();
     placeCentre();
 }
 
 void frmDisplay::placeCells() {
-    gfg->setFont(scaledFont(scale_, styleOf(CellStyle::minor)));
-    const auto table = cellLabels();
+    gfg->setFont(scaledFont(scale_, LabelKind::minor));
     for (const CellIndex cell : allCells) {
         Square[cell.index()]->setGeometry(scale_.cellFrame(cell));
         lblCover[cell.index()]->setGeometry(scale_.cellFrame(cell));
     }
-    for (std::size_t i = 0; i < table.size(); ++i) {
-        const QFont font = scaledFont(scale_, styleOf(table[i].style));
-        const QSize least{scale_.pixels(table[i].minimumWidth), 0};
-        const QRect place{QPoint{scale_.pixels(table[i].left), scale_.pixels(table[i].top)},
-                          textSize(font, table[i].longestText).expandedTo(least)};
-        const bool inherits =
-            table[i].style == CellStyle::minor || table[i].style == CellStyle::transformation;
+    for (std::size_t i = 0; i < cellLabels.size(); ++i) {
+        const CellLabel& label = cellLabels[i];
+        const QFont font = scaledFont(scale_, label.kind);
+        const QSize least{scale_.pixels(label.minimumWidth), 0};
+        const QRect place{QPoint{scale_.pixels(label.left), scale_.pixels(label.top)},
+                          textSize(font, label.longestText).expandedTo(least)};
         for (const CellLabels& labels : labels_) {
-            if (!inherits) labels[i]->setFont(font);
+            if (!inheritsFont(label.kind)) labels[i]->setFont(font);
             labels[i]->setGeometry(place);
         }
     }
-    leadWithZiWei();
+    for (const CellIndex cell : allCells) {
+        QLabel* branch = labels_[cell.index()][rowOf(cellLabels, "lblEarthlyBranches")];
+        if (holdsZiWei_[cell.index()]) branch->setFont(scaledFont(scale_, LabelKind::ziWei));
+    }
 }
 
 void frmDisplay::placeCentre() {
     Frame2->setGeometry(scale_.centreFrame());
-    const auto table = centreLabels();
-    for (std::size_t i = 0; i < table.size(); ++i) {
-        centre_[i]->setFont(scaledFont(scale_, styleOf(table[i].style)));
-        centre_[i]->setGeometry(scale_.pixels(table[i].left), scale_.pixels(table[i].top),
-                                scale_.pixels(table[i].width), scale_.pixels(table[i].height));
+    for (std::size_t i = 0; i < centreLabels.size(); ++i) {
+        const CentreLabel& label = centreLabels[i];
+        centre_[i]->setFont(scaledFont(scale_, label.kind));
+        centre_[i]->setGeometry(scale_.pixels(label.left), scale_.pixels(label.top),
+                                scale_.pixels(label.width), scale_.pixels(label.height));
     }
 }
 
-QPixmap frmDisplay::clientPicture() { return scroll_->grab(); }
+QPixmap frmDisplay::clientPicture() {
+    const QSize shown = scroll_->viewport()->size();
+    const bool scrolls = gfg->width() > shown.width() || gfg->height() > shown.height();
+    for (LblCover* cover : lblCover) cover->setMarked(false);
+    QPixmap picture = scrolls ? gfg->grab() : scroll_->grab();
+    for (LblCover* cover : lblCover) cover->setMarked(true);
+    return picture;
+}
 
-void frmDisplay::lblCover_Hover() { lblCaption->setText(QLatin1String{cellHint}); }
-
-void frmDisplay::background_Hover() { lblCaption->setText(QLatin1String{backgroundHint}); }
+void frmDisplay::showHint() {
+    const bool onCell = std::ranges::any_of(lblCover, &LblCover::isPointedAt);
+    lblCaption->setText(latin(onCell ? cellHint : backgroundHint));
+}
 
 // A window inside a frame would keep the Tab key's focus to itself for good.
 bool frmDisplay::focusNextPrevChild(bool next) {
@@ -324,19 +252,13 @@ bool frmDisplay::focusNextPrevChild(bool next) {
     return true;
 }
 
-bool frmDisplay::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() == QEvent::MouseMove || event->type() == QEvent::Enter) background_Hover();
-    return QWidget::eventFilter(watched, event);
-}
-
-// The chart is one stop of the Tab key, at the cell that had the focus last; arrow keys move within it.
-void frmDisplay::makeTabStop() {
-    for (LblCover* cover : lblCover)
-        cover->setFocusPolicy(cover == sender() ? Qt::StrongFocus : Qt::ClickFocus);
+// The chart is one stop of the Tab key, at the cell that had the focus last; arrow keys move within it. What
+// is pressed with the pointer is in sight, and must not move away from under it.
+void frmDisplay::takeFocus(LblCover* cover, Qt::FocusReason reason) {
+    for (LblCover* other : lblCover) other->setFocusPolicy(other == cover ? Qt::StrongFocus : Qt::ClickFocus);
+    if (reason != Qt::MouseFocusReason) scroll_->ensureWidgetVisible(cover, 0, 0);
 }
 
 void frmDisplay::moveFocus(CellIndex from, int columnStep, int rowStep) {
-    LblCover* target = lblCover[neighbour(from, columnStep, rowStep).index()];
-    target->setFocus(Qt::OtherFocusReason);
-    scroll_->ensureWidgetVisible(target, 0, 0);
+    lblCover[neighbour(from, columnStep, rowStep).index()]->setFocus(Qt::OtherFocusReason);
 }

@@ -4,27 +4,23 @@
 #include <QLabel>
 #include <QWidget>
 #include <array>
-#include <vector>
 
 #include "chart/birth_entry.h"
 #include "chart/chart_model.h"
+#include "display/chart_scale.h"
 #include "display/label_places.h"
-#include "display/lbl_cover.h"
-#include "style/help_menu.h"
 
-class CellSquare;
 class ChartSquare;
+class LblCover;
 class QMenuBar;
 class QScrollArea;
 
 class frmDisplay : public QWidget {
     Q_OBJECT
   public:
-    frmDisplay();
+    // Shows the chart, and the entry as the lists of the input form stand.
+    frmDisplay(const ChartModel& chart, const BirthEntry& entry);
     ~frmDisplay() override;
-
-    // Fills cells and header from the chart and from the entry as the lists now stand.
-    void showChart(const ChartModel& chart, const BirthEntry& entry);
 
     // The window at the largest scale whose chart goes into the room, or scrolling where none does. Returns
     // the window's size then, at most as large as the room.
@@ -33,7 +29,8 @@ class frmDisplay : public QWidget {
     // Opens the menu whose access key this is, if there is one.
     void openMenu(int key);
 
-    // The client area as on the screen, at the screen's own resolution, without the menu.
+    // The client area as on the screen, at the screen's own resolution, without the menu, the focus and the
+    // pointer; where the chart scrolls, all of it.
     QPixmap clientPicture();
 
   signals:
@@ -42,31 +39,27 @@ class frmDisplay : public QWidget {
     void savePictureRequested();
     void backRequested();
     void exitRequested();
-    void pageRequested(WebPage page);
-    void aboutRequested();
     void tabbedOut(bool forwards);  // the Tab key left the chart
 
   protected:
     bool focusNextPrevChild(bool next) override;
-    bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
+    using CellLabels = std::array<QLabel*, cellLabels.size()>;
+
+    void createGround();
     void createMenus();
-    void createCells();
+    void createCell(CellIndex cell, const ChartCell& content);
+    void createCover(CellIndex cell, const ChartModel& chart);
     void createCentre();
+    QLabel* createLabel(QWidget* parent, std::string_view name, LabelKind kind);
     void fillHeader(const ChartModel& chart, const BirthEntry& entry);
-    void fillCells(const ChartModel& chart);
-    void leadWithZiWei();
     void applyScale(ChartScale scale);
     void placeCells();
     void placeCentre();
-    void lblCover_Hover();
-    void background_Hover();
-    void makeTabStop();
+    void showHint();
+    void takeFocus(LblCover* cover, Qt::FocusReason reason);
     void moveFocus(CellIndex from, int columnStep, int rowStep);
-    QLabel* centreLabel(std::string_view name) const;
-
-    using CellLabels = std::array<QLabel*, 35>;
 
     QMenuBar* menus_;
     QScrollArea* scroll_;
@@ -74,10 +67,10 @@ class frmDisplay : public QWidget {
     ChartSquare* Frame1;  // the square
     QWidget* Frame2;      // the centre block
     QLabel* lblCaption;
-    std::array<CellSquare*, cellCount> Square{};
+    std::array<QWidget*, cellCount> Square{};
     std::array<LblCover*, cellCount> lblCover{};
     std::array<CellLabels, cellCount> labels_{};
     std::array<bool, cellCount> holdsZiWei_{};
-    std::vector<QLabel*> centre_;
+    std::array<QLabel*, centreLabels.size()> centre_{};
     ChartScale scale_{naturalScale};
 };

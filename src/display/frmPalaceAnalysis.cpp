@@ -1,15 +1,19 @@
 #include "display/frmPalaceAnalysis.h"
 
 #include <QHBoxLayout>
-#include <QMenuBar>
-#include <QPushButton>
 #include <QScreen>
-#include <QTextCharFormat>
+#include <QScrollBar>
+#include <QShortcut>
 #include <QTextCursor>
-#include <QTextDocument>
 #include <QTextEdit>
+#include <QWheelEvent>
+#include <algorithm>
+#include <array>
 
 #include "display/analysis_printer.h"
+#include "display/styled_text.h"
+#include "help/help_menu.h"
+#include "style/controls.h"
 #include "style/look.h"
 
 namespace {
@@ -17,37 +21,24 @@ namespace {
 // A line of the text is easiest to read at about this many characters.
 constexpr int comfortableLine = 84;
 
-QTextCharFormat formatFor(const TextStyle& style) {
-    QTextCharFormat format;
-    format.setFontFamilies(look::textFont(QFont{}).families());
-    format.setFontPointSize(style.size);
-    format.setFontWeight(style.bold ? QFont::Bold : QFont::Normal);
-    format.setForeground(QColor{style.colour.red, style.colour.green, style.colour.blue});
-    return format;
-}
-
-QString withLineBreaks(const std::string& text) {
-    return QString::fromStdString(text).replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
-}
-
-template <class Control>
-Control* named(Control* control, const char* name) {
-    control->setObjectName(QString::fromLatin1(name));
-    return control;
-}
+// The sizes in which the text can be read, in per cent.
+constexpr std::array<int, 10> textSizes{80, 90, 100, 110, 125, 150, 175, 200, 250, 300};
 
 }  // namespace
 
-frmPalaceAnalysis::frmPalaceAnalysis(AnalysisKind kind, QWidget* parent) : QDialog(parent) {
-    setObjectName(QStringLiteral("frmPalaceAnalysis"));
+frmPalaceAnalysis::frmPalaceAnalysis(AnalysisKind kind, const std::vector<TextRun>& runs, int textSize,
+                                     QWidget* parent)
+    : QDialog(parent), kind_(kind), runs_(runs), textSize_(textSize) {
+    named(this, "frmPalaceAnalysis");
     setWindowTitle(tr("Palace Lantern Analysis"));
     createText();
     auto* rows = new QVBoxLayout{this};
     rows->setSpacing(10);
     rows->addWidget(RTB);
-    createButtons(kind, rows);
+    createButtons(rows);
     cmdOk->setDefault(true);
     createMenus();
+    createKeys();
     fitToScreen();
 }
 
@@ -66,32 +57,44 @@ void frmPalaceAnalysis::createText() {
     RTB->setPalette(papers);
     RTB->document()->setDocumentMargin(14);
     RTB->document()->setUndoRedoEnabled(false);
+    RTB->viewport()->installEventFilter(this);
+    fillWithRuns(*RTB->document(), runs_, textSize_);
+    // The text is read from its top, by eye and by the keyboard's cursor.
+    RTB->moveCursor(QTextCursor::Start);
 }
 
-void frmPalaceAnalysis::createButtons(AnalysisKind kind, QVBoxLayout* rows) {
-    cmdSave = named(new QPushButton{tr("&Save")}, "cmdSave");
-    cmdPrint = named(new QPushButton{tr("&Print")}, "cmdPrint");
-    cmdOk = named(new QPushButton{tr("&OK")}, "cmdOk");
-    connect(cmdSave, &QPushButton::clicked, this, &frmPalaceAnalysis::saveRequested);
-    connect(cmdPrint, &QPushButton::clicked, this, &frmPalaceAnalysis::cmdPrint_Click);
-    connect(cmdOk, &QPushButton::clicked, this, &QDialog::accept);
+void frmPalaceAnalysis::createButtons(QVBoxLayout* rows) {
+    cmdSave = newButton("cmdSave", "&Save", this, &frmPalaceAnalysis::saveRequested);
+    cmdPrint = newButton("cmdPrint", "&Print", this, &frmPalaceAnalysis::cmdPrint_Click);
+    cmdOk = newButton("cmdOk", "&OK", this, &QDialog::accept);
     auto* row = new QHBoxLayout;
     row->addStretch();
     for (QPushButton* button : {cmdSave, cmdPrint, cmdOk}) row->addWidget(button);
     rows->addLayout(row);
-    cmdSave->setHidden(kind == AnalysisKind::onePalace);
-    cmdPrint->setHidden(kind == AnalysisKind::onePalace);
+    cmdSave->setHidden(kind_ == AnalysisKind::onePalace);
+    cmdPrint->setHidden(kind_ == AnalysisKind::onePalace);
 }
 
 void frmPalaceAnalysis::createMenus() {
-    auto* menus = new QMenuBar{this};
+    QMenuBar* menus = newMenuBar(this);
     auto* mnuFile = named(menus->addMenu(tr("&File")), "mnuFile");
-    named(mnuFile->addAction(tr("&Ok"), this, &QDialog::accept), "mnuOk");
-    auto* mnuHelp = new HelpMenu{menus};
-    menus->addMenu(mnuHelp);
-    connect(mnuHelp, &HelpMenu::pageRequested, this, &frmPalaceAnalysis::pageRequested);
-    connect(mnuHelp, &HelpMenu::aboutRequested, this, &frmPalaceAnalysis::aboutRequested);
+    addEntry(mnuFile, "mnuOk", "&Ok", this, &QDialog::accept);
+    menus->addMenu(new HelpMenu{this});
     layout()->setMenuBar(menus);
+}
+
+void frmPalaceAnalysis::createKeys() {
+    const auto addKey = [this](const QKeySequence& key, auto handler) {
+        connectControl(new QShortcut{key, this}, &QShortcut::activated, this, handler);
+    };
+    const auto larger = [](frmPalaceAnalysis* form) { form->stepTextSize(true); };
+    addKey(Qt::CTRL | Qt::Key_Plus, larger);
+    addKey(Qt::CTRL | Qt::Key_Equal, larger);  // Plus without Shift on many keyboards
+    addKey(Qt::CTRL | Qt::Key_Minus, [](frmPalaceAnalysis* form) { form->stepTextSize(false); });
+    addKey(Qt::CTRL | Qt::Key_0, [](frmPalaceAnalysis* form) { form->setTextSize(100); });
+    if (kind_ == AnalysisKind::onePalace) return;
+    addKey(QKeySequence::Save, &frmPalaceAnalysis::saveRequested);
+    addKey(QKeySequence::Print, &frmPalaceAnalysis::cmdPrint_Click);
 }
 
 void frmPalaceAnalysis::fitToScreen() {
@@ -99,18 +102,44 @@ void frmPalaceAnalysis::fitToScreen() {
     body.setPointSize(8);
     body.setBold(true);
     const int width = static_cast<int>(QFontMetricsF{body}.averageCharWidth() * comfortableLine) + 80;
-    const QSize room = screen()->availableSize() - QSize{24, 48};
+    const QSize room = parentWidget()->screen()->availableSize() - QSize{24, 80};
     resize(QSize{width, width * 9 / 10}.boundedTo(room));
 }
 
-void frmPalaceAnalysis::append(const std::vector<TextRun>& runs) {
-    QTextCursor end{RTB->document()};
-    end.movePosition(QTextCursor::End);
-    end.beginEditBlock();
-    for (const TextRun& run : runs) end.insertText(withLineBreaks(run.text), formatFor(run.style));
-    end.endEditBlock();
-    // The text is read from its top, by eye and by the keyboard's cursor.
-    RTB->moveCursor(QTextCursor::Start);
+void frmPalaceAnalysis::cmdPrint_Click() {
+    const QTextCursor cursor = RTB->textCursor();
+    printAnalysis(runs_, cursor.selectionStart(), cursor.selectionEnd(), this);
 }
 
-void frmPalaceAnalysis::cmdPrint_Click() { printAnalysis(*RTB, this); }
+// The line at the top of the view stays there; what is selected stays so.
+void frmPalaceAnalysis::setTextSize(int percent) {
+    if (percent == textSize_) return;
+    textSize_ = percent;
+    emit textSizeChosen(percent);
+    QTextCursor cursor = RTB->textCursor();
+    const int anchor = cursor.anchor(), position = cursor.position();
+    const QTextCursor top = RTB->cursorForPosition({0, 2});
+    const int topLetter = top.position(), topBefore = RTB->cursorRect(top).top();
+    fillWithRuns(*RTB->document(), runs_, percent);
+    cursor.setPosition(topLetter);
+    QScrollBar* bar = RTB->verticalScrollBar();
+    const int scrolled = bar->value() + RTB->cursorRect(cursor).top() - topBefore;
+    cursor.setPosition(anchor);
+    cursor.setPosition(position, QTextCursor::KeepAnchor);
+    RTB->setTextCursor(cursor);
+    bar->setValue(scrolled);
+}
+
+void frmPalaceAnalysis::stepTextSize(bool larger) {
+    const auto here = std::ranges::find(textSizes, textSize_);
+    if (larger && here + 1 != textSizes.end()) setTextSize(*(here + 1));
+    if (!larger && here != textSizes.begin()) setTextSize(*(here - 1));
+}
+
+bool frmPalaceAnalysis::eventFilter(QObject* watched, QEvent* event) {
+    auto* wheel = event->type() == QEvent::Wheel ? static_cast<QWheelEvent*>(event) : nullptr;
+    if (wheel == nullptr || !(wheel->modifiers() & Qt::ControlModifier))
+        return QDialog::eventFilter(watched, event);
+    if (wheel->angleDelta().y() != 0) stepTextSize(wheel->angleDelta().y() > 0);
+    return true;
+}

@@ -3,9 +3,9 @@
 #pragma once
 
 #include <QDialog>
+#include <vector>
 
 #include "interpret/text_run.h"
-#include "style/help_menu.h"
 
 class QPushButton;
 class QTextEdit;
@@ -19,23 +19,30 @@ enum class AnalysisKind {
 class frmPalaceAnalysis : public QDialog {
     Q_OBJECT
   public:
-    frmPalaceAnalysis(AnalysisKind kind, QWidget* parent);
-
-    // Adds the runs at the end of the text, each in its own style; CR LF makes one line break.
-    void append(const std::vector<TextRun>& runs);
+    // Shows the runs one after another, each in its own style, with CR LF as one line break. The text's size
+    // is in per cent of the runs' own.
+    frmPalaceAnalysis(AnalysisKind kind, const std::vector<TextRun>& runs, int textSize, QWidget* parent);
 
   signals:
     void saveRequested();
-    void pageRequested(WebPage page);
-    void aboutRequested();
+    void textSizeChosen(int percent);
+
+  protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
     void createText();
-    void createButtons(AnalysisKind kind, QVBoxLayout* rows);
+    void createButtons(QVBoxLayout* rows);
     void createMenus();
+    void createKeys();
     void fitToScreen();
     void cmdPrint_Click();
+    void setTextSize(int percent);
+    void stepTextSize(bool larger);
 
+    AnalysisKind kind_;
+    std::vector<TextRun> runs_;
+    int textSize_;
     QTextEdit* RTB;
     QPushButton* cmdSave;
     QPushButton* cmdPrint;

@@ -1,45 +1,56 @@
-// Where every label of the chart stands. Places are in twips (1/1440 inch) at the chart's scale 1, those in a
-// cell counted from the cell's top left corner, those of the centre from the centre block's.
+// Every label of the chart: where it stands and how it looks. Places are in twips (1/1440 inch) at the
+// chart's scale 1, those in a cell counted from the cell's top left corner, those of the centre from the
+// centre block's.
 #pragma once
 
-#include <QPoint>
-#include <QRect>
-#include <QSize>
+#include <QColor>
 #include <array>
-#include <span>
 #include <string_view>
 
-#include "chart/cell_index.h"
+#include "chart/chart_model.h"
+#include "style/look.h"
 
-inline constexpr int cellWidth = 3600;
-inline constexpr int cellHeight = 2160;
-inline constexpr int frameOverlap =
-    15;  // frames reach one pixel into their neighbours, so that borders coincide
-inline constexpr int hintHeight = 300;
-
-// How a label is written; the sizes are in pixels at scale 1.
-struct LabelStyle {
-    int pixelSize;
-    bool bold;
+enum class LabelKind {
+    quiet,
+    ziWei,
+    tianFuGroup,
+    ziWeiGroup,
+    palace,
+    minor,
+    transformation,
+    body,
+    name,
+    heading,
+    prompt,
+    value,
+    hint
 };
 
-enum class CellStyle { quiet, palace, tianFuGroup, ziWeiGroup, minor, transformation, body };
-constexpr LabelStyle styleOf(CellStyle style) {
-    switch (style) {
-        case CellStyle::quiet:
-            return {10, false};
-        case CellStyle::palace:
-        case CellStyle::tianFuGroup:
-        case CellStyle::ziWeiGroup:
-            return {12, true};
-        case CellStyle::body:
-            return {10, true};
-        case CellStyle::minor:
-        case CellStyle::transformation:
-            break;
-    }
-    return {11, false};
-}
+// How a kind of label looks; the size is in pixels at scale 1.
+struct LabelLook {
+    LabelKind kind;
+    int pixelSize;
+    bool bold;
+    QColor colour;
+};
+
+inline constexpr std::array<LabelLook, 13> labelLooks{{
+    {LabelKind::quiet, 10, false, look::quiet},
+    {LabelKind::ziWei, 10, true, look::green},  // a branch with Zi Wei above it leads like a major star
+    {LabelKind::tianFuGroup, 12, true, look::blue},
+    {LabelKind::ziWeiGroup, 12, true, look::green},
+    {LabelKind::palace, 12, true, look::brown},
+    {LabelKind::minor, 11, false, look::ink},
+    {LabelKind::transformation, 11, false, look::red},
+    {LabelKind::body, 10, true, look::brown},
+    {LabelKind::name, 20, true, look::blue},
+    {LabelKind::heading, 14, false, look::brown},
+    {LabelKind::prompt, 11, false, look::quiet},
+    {LabelKind::value, 12, true, look::blue},
+    {LabelKind::hint, 11, false, look::brown},
+}};
+
+constexpr const LabelLook& lookOf(LabelKind kind) { return labelLooks[static_cast<std::size_t>(kind)]; }
 
 // A label that every cell has. The width is the least; a label is wider where its longest text asks for it.
 struct CellLabel {
@@ -47,27 +58,55 @@ struct CellLabel {
     int left;
     int top;
     int minimumWidth;
-    CellStyle style;
+    LabelKind kind;
     std::string_view longestText;
 };
 
-// All 35 labels of a cell.
-std::span<const CellLabel> cellLabels();
+// The left side of a cell holds what a cell is: branch, stem, major stars, palace. The rest of it holds the
+// minor stars in three columns of ten rows, and at the foot, in a block of their own, the transformations.
+// clang-format off
+inline constexpr std::array<CellLabel, 35> cellLabels{{
+    {"lblEarthlyBranches",    60,    0, 600, LabelKind::quiet,          "Zi Wei\r\nChou"},
+    {"lblPalaceSteam",        60,  360,   0, LabelKind::quiet,          "Water\r\nGeng"},
+    {"lblTianFu",             60, 1380, 600, LabelKind::tianFuGroup,    "Tian Xiang"},
+    {"lblMajorStars",         60, 1605, 975, LabelKind::ziWeiGroup,     "Lian Zhen"},
+    {"lblPalace",             60, 1920,   0, LabelKind::palace,         "Life Palace"},
 
-enum class CentreStyle { name, heading, prompt, value };
-constexpr LabelStyle styleOf(CentreStyle style) {
-    switch (style) {
-        case CentreStyle::name:
-            return {20, true};
-        case CentreStyle::heading:
-            return {14, false};
-        case CentreStyle::prompt:
-            return {11, false};
-        case CentreStyle::value:
-            break;
-    }
-    return {12, true};
-}
+    {"lblTianKui",          1080,  120,   0, LabelKind::minor,          "Tian Kui"},
+    {"lblTianYueTwo",       1080,  320,   0, LabelKind::minor,          "Tian Yue"},
+    {"lblLuCun",            1080,  520,   0, LabelKind::minor,          "Lu Cun"},
+    {"lblZuoFu",            1080,  720,   0, LabelKind::minor,          "Zuo Fu"},
+    {"lblYouBi",            1080,  920,   0, LabelKind::minor,          "You Bi"},
+    {"lblTuoLuo",           1080, 1120,   0, LabelKind::minor,          "Tuo Luo"},
+    {"lblSanTai",           1200, 1320,   0, LabelKind::minor,          "San Tai"},
+    {"lblBaZuo",            1200, 1520,   0, LabelKind::minor,          "Ba Zuo"},
+
+    {"lblWenChang",         1875,  120,   0, LabelKind::minor,          "Wen Chang"},
+    {"lblTianFutwo",        1875,  320,   0, LabelKind::minor,          "Tian Fu"},
+    {"lblTianGuan",         1875,  520,   0, LabelKind::minor,          "Tian Guan"},
+    {"lblQingYang",         1875,  720,   0, LabelKind::minor,          "Qing Yang"},
+    {"lblEnGuang",          1875,  920,   0, LabelKind::minor,          "En Guang"},
+    {"lblTianXing",         1875, 1120,   0, LabelKind::minor,          "Tian Xing"},
+    {"lblFengGao",          1875, 1320,   0, LabelKind::minor,          "Feng Gao"},
+    {"lblTaiFu",            1875, 1520,   0, LabelKind::minor,          "Tai Fu"},
+
+    {"lblWenQi",            2880,  120,   0, LabelKind::minor,          "Wen Qu"},
+    {"lblTianYue",          2880,  320,   0, LabelKind::minor,          "Tian Yue"},
+    {"lblTianYao",          2880,  520,   0, LabelKind::minor,          "Tian Yao"},
+    {"lblTianWu",           2880,  720,   0, LabelKind::minor,          "Tian Wu"},
+    {"lblTianGui",          2880,  920,   0, LabelKind::minor,          "Tian Gui"},
+    {"lblJieShen",          2880, 1120,   0, LabelKind::minor,          "Jie Shen"},
+    {"lblYinSha",           2880, 1320,   0, LabelKind::minor,          "Yin Sha"},
+    {"lblDiJie",            2880, 1520,   0, LabelKind::minor,          "Di Jie"},
+    {"lblDiKong",           2880, 1720,   0, LabelKind::minor,          "Di Kong"},
+
+    {"lblHuaJi",            1200, 1720,   0, LabelKind::transformation, "Hua Ji"},
+    {"lblHuaQuan",          1875, 1720,   0, LabelKind::transformation, "Hua Quan"},
+    {"lblHuake",            1200, 1920,   0, LabelKind::transformation, "Hua ke"},
+    {"lblHuaLu",            1875, 1920,   0, LabelKind::transformation, "Hua Lu"},
+    {"lblBody",             2880, 1920,   0, LabelKind::body,           "* Body"},
+}};
+// clang-format on
 
 // A label of the centre block: one that is filled, or a fixed prompt, which has a text.
 struct CentreLabel {
@@ -77,11 +116,28 @@ struct CentreLabel {
     int top;
     int width;
     int height;
-    CentreStyle style;
+    LabelKind kind;
     bool centred;
 };
 
-std::span<const CentreLabel> centreLabels();
+// The centre block reads as a title page: who and when, then what the chart is counted from.
+// clang-format off
+inline constexpr std::array<CentreLabel, 13> centreLabels{{
+    {"lblName",                 "",                          300,  420, 6600, 450, LabelKind::name,    true},
+    {"lblDateOfBirth",          "",                          300,  960, 6600, 330, LabelKind::heading, true},
+    {"lblTimeOfBirth",          "",                          300, 1290, 6600, 330, LabelKind::heading, true},
+    {"lblElementPrompt",        "Element",                   900, 2010, 3300, 270, LabelKind::prompt,  false},
+    {"lblElement",              "",                         4350, 2010, 2400, 270, LabelKind::value,   false},
+    {"lblYearPrompt",           "Year",                      900, 2340, 3300, 270, LabelKind::prompt,  false},
+    {"lblYear",                 "",                         4350, 2340, 2400, 270, LabelKind::value,   false},
+    {"lblMonthPrompt",          "Lunar Month",               900, 2670, 3300, 270, LabelKind::prompt,  false},
+    {"lblMonth",                "",                         4350, 2670, 2400, 270, LabelKind::value,   false},
+    {"lblLifePalaceatPrompt",   "Your Life Palace at",       900, 3000, 3300, 270, LabelKind::prompt,  false},
+    {"lblLifePalaceat",         "",                         4350, 3000, 2400, 270, LabelKind::value,   false},
+    {"lblBodyPalaceatPrompt",   "Your Body Palace at",       900, 3330, 3300, 270, LabelKind::prompt,  false},
+    {"lblBodyPalaceat",         "",                         4350, 3330, 2400, 270, LabelKind::value,   false},
+}};
+// clang-format on
 
 // The line between who and when and the rest.
 struct CentreRule {
@@ -89,57 +145,35 @@ struct CentreRule {
 };
 inline constexpr CentreRule centreRule{1800, 1800, 3600};
 
-// Column and row of a cell on the 4 x 4 square, from the top left.
-struct GridPlace {
-    int column;
-    int row;
-    friend constexpr bool operator==(GridPlace, GridPlace) = default;
-};
-constexpr GridPlace gridPlace(CellIndex cell) {
-    constexpr std::array<GridPlace, cellCount> places{{
-        {0, 3},
-        {0, 2},
-        {0, 1},
-        {0, 0},  // Yin, Mao, Chen, Si: up the left side
-        {1, 0},
-        {2, 0},
-        {3, 0},  // Wu, Wei, Shen: along the top
-        {3, 1},
-        {3, 2},
-        {3, 3},  // You, Xu, Hai: down the right side
-        {2, 3},
-        {1, 3},  // Zi, Chou: back along the bottom
-    }};
-    return places[cell.index()];
+// The row of a table whose name this is; where there is none, the program does not compile.
+template <class Table>
+consteval std::size_t rowOf(const Table& table, std::string_view name) {
+    std::size_t row = 0;
+    while (table.at(row).name != name) ++row;
+    return row;
 }
 
-// The cell that one step on the screen leads to: the next one in that direction, across the centre where that
-// lies between; the same cell at the square's edge. Steps are -1, 0 or 1.
-CellIndex neighbour(CellIndex cell, int columnStep, int rowStep);
+// The label of each field of a cell, in the order of the fields' table.
+template <class Fields>
+consteval auto labelsOf(const Fields& fields) {
+    std::array<std::size_t, std::tuple_size_v<Fields>> rows{};
+    for (std::size_t i = 0; i < fields.size(); ++i) rows[i] = rowOf(cellLabels, fields[i].name);
+    return rows;
+}
+inline constexpr auto captionLabels = labelsOf(captionFields);
+inline constexpr auto flagLabels = labelsOf(flagFields);
 
-// The scale at which the chart is drawn, told by the size in pixels of the minor stars' names: whole pixels,
-// so that text stays crisp at every step.
-class ChartScale {
-  public:
-    explicit constexpr ChartScale(int minorPixels) : minorPixels_(minorPixels) {}
-
-    // The largest scale at which a chart with its hint line goes into the room, or one at which it scrolls;
-    // never one at which the text is too small to be read on a screen of this pixel ratio.
-    static ChartScale largestFor(const QSize& room, double devicePixelRatio);
-
-    constexpr int minorPixels() const { return minorPixels_; }
-    int pixels(int twips) const;          // a length or a place, in pixels
-    int fontPixels(int pixelSize) const;  // a font's size, in pixels
-    QRect cellFrame(CellIndex cell) const;
-    QRect centreFrame() const;
-    QSize squareSize() const;
-    QSize chartSize() const;  // the square and the hint line, with their margins
-    int margin() const { return pixels(60); }
-
-    friend bool operator==(const ChartScale&, const ChartScale&) = default;
-
-  private:
-    int minorPixels_;
-};
-
-inline constexpr ChartScale naturalScale{styleOf(CellStyle::minor).pixelSize};
+consteval bool tablesFit() {
+    std::array<int, cellLabels.size()> fieldsOfLabel{};
+    for (const std::size_t label : captionLabels) ++fieldsOfLabel[label];
+    for (const std::size_t label : flagLabels) ++fieldsOfLabel[label];
+    for (const int fields : fieldsOfLabel) {
+        if (fields != 1) return false;
+    }
+    for (std::size_t i = 0; i < labelLooks.size(); ++i) {
+        if (labelLooks[i].kind != static_cast<LabelKind>(i)) return false;
+    }
+    return true;
+}
+static_assert(tablesFit(),
+              "each field of a cell has one label, each label one field, and each kind its look");

@@ -3,10 +3,11 @@
 #include <QKeyEvent>
 #include <QPainter>
 
+#include "style/controls.h"
 #include "style/look.h"
 
 LblCover::LblCover(CellIndex cell, QWidget* parent) : QAbstractButton(parent) {
-    setObjectName(QStringLiteral("lblCover(%1)").arg(cell.value()));
+    named(this, "lblCover(" + std::to_string(cell.value()) + ")");
     setFocusPolicy(cell == CellIndex{0} ? Qt::StrongFocus : Qt::ClickFocus);
     setCursor(Qt::PointingHandCursor);
 }
@@ -14,24 +15,24 @@ LblCover::LblCover(CellIndex cell, QWidget* parent) : QAbstractButton(parent) {
 void LblCover::enterEvent(QEnterEvent* event) {
     QAbstractButton::enterEvent(event);
     update();
-    emit pointedAt();
+    emit pointedAtOrLeft();
 }
 
 void LblCover::leaveEvent(QEvent* event) {
     QAbstractButton::leaveEvent(event);
     update();
-    emit left();
+    emit pointedAtOrLeft();
 }
 
 void LblCover::focusInEvent(QFocusEvent* event) {
     QAbstractButton::focusInEvent(event);
-    emit focused();
-    emit pointedAt();
+    emit focused(event->reason());
+    emit pointedAtOrLeft();
 }
 
 void LblCover::focusOutEvent(QFocusEvent* event) {
     QAbstractButton::focusOutEvent(event);
-    emit left();
+    emit pointedAtOrLeft();
 }
 
 void LblCover::keyPressEvent(QKeyEvent* event) {
@@ -50,20 +51,20 @@ void LblCover::keyPressEvent(QKeyEvent* event) {
             return;
         case Qt::Key_Return:
         case Qt::Key_Enter:
-            if (!event->isAutoRepeat()) click();
+            click();
             return;
         default:
             QAbstractButton::keyPressEvent(event);
     }
 }
 
+// The frame of the focus is thin above, where the letters begin right below the edge.
 void LblCover::paintEvent(QPaintEvent*) {
-    const bool hovered = underMouse() && isEnabled();
-    if (!hovered && !hasFocus()) return;
+    if (!marked_) return;
     QPainter painter{this};
-    if (hovered) painter.fillRect(rect().adjusted(1, 1, -1, -1), QColor{13, 36, 166, 14});
+    if (underMouse()) painter.fillRect(rect().adjusted(1, 1, -1, -1), QColor{13, 36, 166, 14});
     if (!hasFocus()) return;
-    painter.setPen(QPen{look::blue, 2});
-    painter.drawRect(
-        rect().adjusted(1, 1, -1, -1));  // clear of the letters, which begin right below the edge
+    painter.setPen(look::blue);
+    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    painter.drawRect(rect().adjusted(1, 0, -2, -2));
 }

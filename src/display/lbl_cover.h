@@ -11,10 +11,15 @@ class LblCover : public QAbstractButton {
   public:
     LblCover(CellIndex cell, QWidget* parent);
 
+    // Whether the pointer is in the cell or the focus on it.
+    bool isPointedAt() const { return underMouse() || hasFocus(); }
+
+    // Whether pointer and focus are seen, as on the screen, or not, as in a picture.
+    void setMarked(bool marked) { marked_ = marked; }
+
   signals:
-    void pointedAt();  // by the pointer or by the focus
-    void left();
-    void focused();
+    void pointedAtOrLeft();
+    void focused(Qt::FocusReason reason);
     void stepWanted(int columnStep, int rowStep);
 
   protected:
@@ -24,4 +29,7 @@ class LblCover : public QAbstractButton {
     void focusOutEvent(QFocusEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
+
+  private:
+    bool marked_ = true;
 };

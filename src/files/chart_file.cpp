@@ -1,47 +1,37 @@
 #include "files/chart_file.h"
 
-#include <fstream>
-#include <istream>
-
-#include "files/line_shift.h"
-#include "files/whole_file.h"
+#include <algorithm>
 
 namespace {
 
-constexpr std::size_t lineCount = 5;
+std::string shifted(std::string_view text, int shift) {
+    std::string result;
+    for (const char character : text) {
+        const int code = static_cast<unsigned char>(character) + shift;
+        if (code >= 0 && code <= 255) result += static_cast<char>(code);
+    }
+    return result;
+}
 
 std::string latin1(std::u16string_view text) {
     std::string bytes;
-    bytes.reserve(text.size());
     for (const char16_t character : text) bytes += character <= 0xFF ? static_cast<char>(character) : '?';
     return bytes;
 }
 
-// Reads one line, takes its end away, and returns whether there may be another one.
-bool readLine(std::streambuf& source, std::string& line) {
-    constexpr int end = std::char_traits<char>::eof();
-    for (int code = source.sbumpc(); code != end; code = source.sbumpc()) {
-        if (code == '\n') return true;
-        if (code == '\r') {
-            if (source.sgetc() == '\n') source.sbumpc();
-            return true;
-        }
-        if (line.size() == longestLine) return false;
-        line += static_cast<char>(code);
-    }
-    return false;
-}
-
-// Five lines are read, and the fifth is never used: the place stays free for a later form of the file.
-std::array<std::string, lineCount> readLines(std::istream& file) {
-    std::array<std::string, lineCount> slots;
-    for (std::string& slot : slots) {
-        if (!readLine(*file.rdbuf(), slot)) break;
-    }
-    return slots;
+// Takes the first line and its end off the bytes and decodes it.
+std::string nextLine(std::string_view& bytes) {
+    const std::string_view line = bytes.substr(0, bytes.find_first_of("\r\n"));
+    bytes.remove_prefix(line.size());
+    const std::size_t lineEnd = bytes.starts_with("\r\n") ? 2 : 1;
+    bytes.remove_prefix(std::min(lineEnd, bytes.size()));
+    return DecodeLine(line);
 }
 
 }  // namespace
+
+std::string EncodeLine(std::string_view text) { return shifted(text, 85); }
+std::string DecodeLine(std::string_view text) { return shifted(text, -85); }
 
 std::string chartFileBytes(const ChartInput& input) {
     std::string bytes;
@@ -52,18 +42,8 @@ std::string chartFileBytes(const ChartInput& input) {
     return bytes;
 }
 
-bool writeChartFile(const std::filesystem::path& path, const ChartInput& input) {
-    WholeFile file{path};
-    return file.write(chartFileBytes(input)) && file.commit();
-}
-
 bool hasChartFileEnding(std::string_view name) { return name.ends_with("plf"); }
 
-ChartFileValues readChartFile(const std::filesystem::path& path) {
-    std::error_code ignored;
-    if (!std::filesystem::is_regular_file(path, ignored)) return {};
-    std::ifstream file{path, std::ios::binary};
-    if (!file) return {};
-    const auto slots = readLines(file);
-    return {DecodeLine(slots[0]), DecodeLine(slots[1]), DecodeLine(slots[2]), DecodeLine(slots[3])};
+ChartFileValues chartFileValues(std::string_view bytes) {
+    return {nextLine(bytes), nextLine(bytes), nextLine(bytes), nextLine(bytes)};
 }

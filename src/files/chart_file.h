@@ -2,24 +2,25 @@
 // cast again. Hour and minute are not kept.
 #pragma once
 
-#include <array>
 #include <cstddef>
-#include <filesystem>
 #include <string>
 #include <string_view>
 
 #include "chart/chart_model.h"
 
-// The most that is read of a line, in bytes: as much as the name box can hold.
-inline constexpr std::size_t longestLine = 32767;
+// The most bytes that a chart file is read for: four lines as long as the longest name that the name box
+// holds.
+inline constexpr std::size_t longestChartFile = std::size_t{4} * (32767 + 2);
+
+// The shift that every line of a chart file passes through, so that the file is not plain text: each code
+// plus 85, or less 85; codes that can't be shifted are left out. An encoded line holds no code below 85, and
+// so no line end.
+std::string EncodeLine(std::string_view text);
+std::string DecodeLine(std::string_view text);
 
 // The bytes of a chart file: name, day, month name and year, each encoded and ended by CR LF. Characters that
 // Latin-1 does not have become "?".
 std::string chartFileBytes(const ChartInput& input);
-
-// Writes the chart file whole or not at all: a file of that name that was there before stays as it was unless
-// the new one is complete. Returns whether it was written.
-bool writeChartFile(const std::filesystem::path& path, const ChartInput& input);
 
 // Whether the name's last three characters are "plf", in small letters; a dot is not asked for.
 bool hasChartFileEnding(std::string_view name);
@@ -32,6 +33,6 @@ struct ChartFileValues {
     std::string year;
 };
 
-// Reads a chart file. Lines end in CR LF, LF or CR. A line longer than longestLine is cut there and is the
-// last one read. A file that can't be read, or is no regular file, yields empty values.
-ChartFileValues readChartFile(const std::filesystem::path& path);
+// Takes the values from the bytes of a chart file. Lines end in CR LF, LF or CR; those after the fourth are
+// passed over.
+ChartFileValues chartFileValues(std::string_view bytes);

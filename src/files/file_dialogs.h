@@ -1,12 +1,16 @@
-// The dialogs that ask for files. Each returns the chosen path, or an empty text where it was cancelled.
+// The dialogs that ask for files. Each returns the chosen path, or an empty text where it was cancelled. A
+// name that won't do is refused in words, and the dialog stays with the name in it.
 #pragma once
 
 #include <QString>
 
 class QWidget;
 
-QString askForChartFile(QWidget* parent);  // one that exists
-QString askWhereToSaveChart(
-    QWidget* parent);  // asks before overwriting; the folder exists and can be written
-QString askForPictureName(
-    QWidget* parent);  // of any name: the naming rule sees to it that nothing is overwritten
+// A file that is there.
+QString askForChartFile(QWidget* parent);
+
+// A file that can be written; asks before one is overwritten.
+QString askWhereToSaveChart(QWidget* parent);
+
+// A file in a folder that takes new ones. The naming rule sees to it that none is overwritten.
+QString askForPictureName(QWidget* parent);

@@ -2,13 +2,13 @@
 
 #include <QCoreApplication>
 #include <QDateTime>
-#include <QFile>
-#include <QImage>
+#include <QFileInfo>
 #include <QLibrary>
-#include <filesystem>
+#include <QScopeGuard>
+#include <QTemporaryFile>
+#include <memory>
 
 #include "files/file_dialogs.h"
-#include "files/litter_guard.h"
 #include "files/picture_name.h"
 #include "style/message.h"
 
@@ -16,57 +16,43 @@ namespace {
 
 constexpr int quality = 100;
 
+std::string encoded(const QString& path) { return QFile::encodeName(path).toStdString(); }
+QString decoded(const std::string& path) { return QFile::decodeName(QByteArray::fromStdString(path)); }
+
 // A link that leads nowhere is a name that is taken, too.
 bool isTaken(const std::string& path) {
-    std::error_code error;
-    return std::filesystem::exists(std::filesystem::symlink_status(path, error));
+    const QFileInfo file{decoded(path)};
+    return file.exists() || file.isSymLink();
 }
 
-ClockTime localTime() {
-    const QDateTime now = QDateTime::currentDateTime();
-    const QDate date = now.date();
-    const QTime time = now.time();
-    return {date.year(), date.month(), date.day(), time.hour(), time.minute(), time.second(), time.msec()};
+PictureName nameFor(const QString& chosenPath) {
+    const QFileInfo chosen{chosenPath};
+    return uniquePictureName(
+        encoded(chosen.path()), encoded(chosen.fileName()),
+        {encoded(QCoreApplication::applicationDirPath()), isTaken,
+         QDateTime::currentDateTime().toString(QStringLiteral("yyyyMMddhhmmsszzz")).toStdString()});
 }
 
-PictureSurroundings surroundings() {
-    return {QFile::encodeName(QCoreApplication::applicationDirPath()).toStdString(), isTaken, localTime};
-}
-
-PictureName nameFor(const std::string& chosenPath) {
-    const auto slash = chosenPath.rfind('/');
-    const bool bare = slash == std::string::npos;
-    return uniquePictureName(bare ? std::string{} : chosenPath.substr(0, slash + 1),
-                             bare ? chosenPath : chosenPath.substr(slash + 1), surroundings());
-}
-
-void tellTooManyCopies(const std::string& name, QWidget* parent) {
-    const QString fileName = QFile::decodeName(QByteArray::fromStdString(name));
+void tellTooManyCopies(const QString& fileName, QWidget* parent) {
     showMessage(parent, QMessageBox::Critical,
                 QStringLiteral("There are too many Copies of this file  ") + fileName,
                 QStringLiteral(" UNABLE  TO  CREATE  NEW  FILE") + fileName);
 }
 
-// A name for the temporary bitmap that is neither the picture's nor that of any file that is there.
-std::string freeBitmapPath(const std::string& picturePath) {
-    const std::string first = bitmapPathFor(picturePath);
-    std::string candidate = first;
-    for (int counter = 1; candidate == picturePath || isTaken(candidate); ++counter) {
-        candidate = first + "-" + std::to_string(counter) + ".bmp";
-    }
-    return candidate;
+// A new file for the bitmap beside the picture, under its own name where that is free and not the picture's.
+std::unique_ptr<QFile> newBitmap(const PictureName& picture) {
+    const std::string path = bitmapPathFor(picture.path());
+    auto bitmap = std::make_unique<QFile>(decoded(path));
+    const bool made = path != picture.path() && bitmap->open(QIODevice::WriteOnly | QIODevice::NewOnly);
+    if (made) return bitmap;
+    auto other = std::make_unique<QTemporaryFile>(decoded(picture.folder + "XXXXXX.bmp"));
+    return other->open() ? std::move(other) : nullptr;
 }
 
-bool writeBitmap(const QImage& image, const std::string& path) {
-    QFile file{QFile::decodeName(QByteArray::fromStdString(path))};
-    return file.open(QIODevice::WriteOnly | QIODevice::NewOnly) && image.save(&file, "BMP") && file.flush();
-}
-
-void convert(const QString& converter, const std::string& bitmapPath, const std::string& picturePath) {
+void convert(const QString& converter, const QString& bitmapPath, const std::string& picturePath) {
     using BmpToJpeg = int (*)(const char*, const char*, int);
-    QLibrary library{converter};
-    const auto bmpToJpeg = reinterpret_cast<BmpToJpeg>(library.resolve("BmpToJpeg"));
-    if (bmpToJpeg != nullptr) bmpToJpeg(bitmapPath.c_str(), picturePath.c_str(), quality);
+    const auto bmpToJpeg = reinterpret_cast<BmpToJpeg>(QLibrary::resolve(converter, "BmpToJpeg"));
+    if (bmpToJpeg != nullptr) bmpToJpeg(encoded(bitmapPath).c_str(), picturePath.c_str(), quality);
 }
 
 }  // namespace
@@ -78,9 +64,11 @@ void exportPicture(const QPixmap& picture, const QString& converter, QWidget* pa
 
 void savePictureAs(const QPixmap& picture, const QString& chosenPath, const QString& converter,
                    QWidget* parent) {
-    const PictureName name = nameFor(QFile::encodeName(chosenPath).toStdString());
-    if (name.tooManyCopies) tellTooManyCopies(name.name, parent);
-    const std::string bitmapPath = freeBitmapPath(name.path());
-    const LitterGuard guard{bitmapPath};
-    if (writeBitmap(picture.toImage(), bitmapPath)) convert(converter, bitmapPath, name.path());
+    const PictureName name = nameFor(chosenPath);
+    if (name.tooManyCopies) tellTooManyCopies(decoded(name.name), parent);
+    const std::unique_ptr<QFile> bitmap = newBitmap(name);
+    if (bitmap == nullptr) return;
+    const auto guard = qScopeGuard([&bitmap] { bitmap->remove(); });
+    const bool written = picture.toImage().save(bitmap.get(), "BMP") && bitmap->flush();
+    if (written) convert(converter, bitmap->fileName(), name.path());
 }

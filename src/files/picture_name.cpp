@@ -1,76 +1,52 @@
 #include "files/picture_name.h"
 
-#include <array>
+#include <algorithm>
 #include <cctype>
-#include <cstdio>
 
 namespace {
 
 constexpr int lastCounter = 999;
+constexpr std::size_t longestName = 255;
+
+int lowered(char character) { return std::tolower(static_cast<unsigned char>(character)); }
+
+// The text with each occurrence of the part, in any case of letters, replaced.
+std::string replaced(std::string_view text, std::string_view part, std::string_view by) {
+    std::string result;
+    while (!text.empty()) {
+        const bool found = std::ranges::equal(text.substr(0, part.size()), part, {}, lowered, lowered);
+        result += found ? by : text.substr(0, 1);
+        text.remove_prefix(found ? part.size() : 1);
+    }
+    return result;
+}
 
 // Doubled separators are reduced pair by pair, so three of them become two: harmless to the file system.
 std::string tidyFolder(std::string_view folder, const PictureSurroundings& around) {
-    std::string given{folder.empty() ? std::string_view{around.applicationFolder} : folder};
-    if (!given.ends_with(around.separator)) given += around.separator;
-    std::string tidy;
-    for (std::size_t i = 0; i < given.size(); ++i) {
-        tidy += given[i];
-        const bool doubled = given[i] == around.separator && given.substr(i + 1, 1) == given.substr(i, 1);
-        if (doubled) ++i;
-    }
-    return tidy;
-}
-
-std::string clockName(const ClockTime& time) {
-    std::array<char, 96> digits{};
-    std::snprintf(digits.data(), digits.size(), "%04d%02d%02d%02d%02d%02d%03d.jpg", time.year, time.month,
-                  time.day, time.hour, time.minute, time.second, time.millisecond);
-    return digits.data();
-}
-
-bool sameButForCase(std::string_view left, std::string_view right) {
-    if (left.size() != right.size()) return false;
-    for (std::size_t i = 0; i < left.size(); ++i) {
-        if (std::tolower(static_cast<unsigned char>(left[i])) !=
-            std::tolower(static_cast<unsigned char>(right[i]))) {
-            return false;
-        }
-    }
-    return true;
-}
-
-std::string withEndingReplaced(std::string_view text, std::string_view ending, std::string_view by) {
-    std::string result;
-    while (!text.empty()) {
-        if (sameButForCase(text.substr(0, ending.size()), ending)) {
-            result += by;
-            text.remove_prefix(ending.size());
-        } else {
-            result += text.front();
-            text.remove_prefix(1);
-        }
-    }
-    return result;
+    std::string given{folder.empty() ? around.applicationFolder : folder};
+    if (!given.ends_with('/')) given += '/';
+    return replaced(given, "//", "/");
 }
 
 std::string pictureNameFor(std::string_view name, const PictureSurroundings& around) {
-    if (name.empty()) return clockName(around.now());
+    if (name.empty()) return around.clock + ".jpg";
     if (name.find('.') == std::string_view::npos) return std::string{name} + ".jpg";
-    return withEndingReplaced(name, ".bmp", ".jpg");
+    return replaced(name, ".bmp", ".jpg");
+}
+
+// Takes so many bytes or a few more, in whole characters, from in front of the first dot.
+std::string shortened(std::string_view name, std::size_t excess) {
+    const std::size_t dot = name.find('.');
+    std::size_t end = dot - std::min(excess, dot);
+    while (end > 0 && (name[end] & 0xC0) == 0x80) --end;
+    return std::string{name.substr(0, end)}.append(name.substr(dot));
 }
 
 std::string counted(std::string_view name, int counter) {
-    std::array<char, 16> mark{};
-    std::snprintf(mark.data(), mark.size(), "_%03d.", counter);
-    std::string result;
-    for (const char character : name) {
-        if (character == '.') {
-            result += mark.data();
-        } else {
-            result += character;
-        }
-    }
-    return result;
+    const std::string mark = "_" + std::to_string(1000 + counter).substr(1) + ".";
+    const std::string whole = replaced(name, ".", mark);
+    if (whole.size() <= longestName) return whole;
+    return replaced(shortened(name, whole.size() - longestName), ".", mark);
 }
 
 }  // namespace
@@ -87,9 +63,7 @@ PictureName uniquePictureName(std::string_view folder, std::string_view name,
     return {tidy, wanted, true};
 }
 
-std::string bitmapPathFor(const std::string& picturePath, char separator) {
-    const auto slash = picturePath.rfind(separator);
-    const auto nameStart = slash == std::string::npos ? 0 : slash + 1;
-    return picturePath.substr(0, nameStart) +
-           withEndingReplaced(picturePath.substr(nameStart), ".jpg", ".bmp");
+std::string bitmapPathFor(const std::string& picturePath) {
+    const auto nameStart = picturePath.rfind('/') + 1;  // 0 where there is no folder
+    return picturePath.substr(0, nameStart) + replaced(picturePath.substr(nameStart), ".jpg", ".bmp");
 }

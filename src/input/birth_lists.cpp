@@ -1,12 +1,11 @@
 #include "input/birth_lists.h"
 
-#include "calendar/date_lists.h"
+#include "calendar/picked_date.h"
 
 namespace {
 
 std::vector<std::string> numbers(int first, int count) {
     std::vector<std::string> entries;
-    entries.reserve(static_cast<std::size_t>(count));
     for (int number = first; number < first + count; ++number) entries.push_back(std::to_string(number));
     return entries;
 }

@@ -1,41 +1,36 @@
 #include "input/drop_down_list.h"
 
-#include <QAbstractItemView>
-#include <QProxyStyle>
-#include <QStyleOptionComboBox>
+#include <QKeyEvent>
+#include <QListView>
+#include <QWheelEvent>
 
 namespace {
 
-// The desktop's own style may lay all entries over the box, which for the years is more than a screen holds.
-class DropDownStyle : public QProxyStyle {
-  public:
-    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
-                  QStyleHintReturn* more) const override {
-        return hint == SH_ComboBox_Popup ? 0 : QProxyStyle::styleHint(hint, option, widget, more);
+// QListView of Qt 6.4 tells a screen reader that its current entry has the focus even while it is not shown,
+// as when a person types into the closed list.
+class EntryView : public QListView {
+  protected:
+    void currentChanged(const QModelIndex& current, const QModelIndex& previous) override {
+        isVisible() ? QListView::currentChanged(current, previous)
+                    : QAbstractItemView::currentChanged(current, previous);
     }
 };
 
 }  // namespace
 
-DropDownList::DropDownList(QString widestEntry) : widestEntry_(std::move(widestEntry)) {
+DropDownList::DropDownList() {
+    setFocusPolicy(Qt::StrongFocus);
     setMaxVisibleItems(16);
 }
 
-QSize DropDownList::sizeHint() const {
-    constexpr int spare = 2;
-    QStyleOptionComboBox option;
-    initStyleOption(&option);
-    const QSize words = fontMetrics().size(Qt::TextSingleLine, widestEntry_) + QSize{spare, spare};
-    return style()->sizeFromContents(QStyle::CT_ComboBox, &option, words, this);
+// QComboBox of Qt 6.4 drops down on Enter on some desktops. Its view is made when it is first needed, for
+// that takes a while.
+void DropDownList::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) return event->ignore();
+    if (view_ == nullptr) setView(view_ = new EntryView);
+    QComboBox::keyPressEvent(event);
 }
 
-// The style is made only when it is first needed, for that takes a while.
-void DropDownList::showPopup() {
-    if (style_ == nullptr) {
-        style_ = new DropDownStyle;
-        style_->setParent(this);
-        setStyle(style_);
-        view()->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);  // the other style had none
-    }
-    QComboBox::showPopup();
+void DropDownList::wheelEvent(QWheelEvent* event) {
+    hasFocus() ? QComboBox::wheelEvent(event) : event->ignore();
 }

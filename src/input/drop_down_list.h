@@ -1,5 +1,4 @@
-// A drop-down list that asks for as much room as its widest entry, which it is told, so that it need not
-// measure every entry, and that drops down below its box and scrolls.
+// A drop-down list that a person changes only while it has the focus, and that leaves Enter to its form.
 #pragma once
 
 #include <QComboBox>
@@ -7,13 +6,12 @@
 class DropDownList : public QComboBox {
     Q_OBJECT
   public:
-    explicit DropDownList(QString widestEntry);
+    DropDownList();
 
-    QSize sizeHint() const override;
-    QSize minimumSizeHint() const override { return sizeHint(); }
-    void showPopup() override;
+  protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
 
   private:
-    QString widestEntry_;
-    QStyle* style_ = nullptr;
+    QAbstractItemView* view_ = nullptr;
 };

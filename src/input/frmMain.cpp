@@ -1,66 +1,66 @@
 #include "input/frmMain.h"
 
 #include <QCloseEvent>
-#include <QComboBox>
-#include <QFile>
 #include <QGridLayout>
+#include <QGroupBox>
 #include <QLabel>
-#include <QMenuBar>
-#include <QPushButton>
+#include <QLineEdit>
+#include <QMimeData>
 #include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
 
 #include "files/chart_file.h"
 #include "files/file_dialogs.h"
+#include "files/saved_files.h"
+#include "help/banner_link.h"
+#include "help/help_menu.h"
 #include "input/birth_lists.h"
-#include "input/details_frame.h"
 #include "input/drop_down_list.h"
-#include "input/name_box.h"
-#include "style/link_label.h"
+#include "input/input_check.h"
+#include "input/name_validator.h"
+#include "style/controls.h"
 #include "style/look.h"
 #include "style/message.h"
 
 namespace {
 
-QString text(std::string_view latin1) {
-    return QString::fromLatin1(latin1.data(), static_cast<qsizetype>(latin1.size()));
-}
-
-template <class Control>
-Control* named(Control* control, const char* name) {
-    control->setObjectName(QString::fromLatin1(name));
-    return control;
-}
-
-// Screen readers call the list by the plain word that stands over it.
-QComboBox* listNamed(const char* name, const char* spokenName, const char* widestEntry) {
-    auto* list = named(new DropDownList{QString::fromLatin1(widestEntry)}, name);
-    list->setAccessibleName(QString::fromLatin1(spokenName));
-    return list;
-}
-
 void fill(QComboBox* list, const std::vector<std::string>& entries) {
     QStringList texts;
-    for (const std::string& entry : entries) texts += text(entry);
+    for (const std::string& entry : entries) texts += latin(entry);
     list->addItems(texts);
 }
 
-QLabel* caption(const char* words) {
-    auto* label = new QLabel{QString::fromLatin1(words)};
+// A text that is no entry leaves the list as it was.
+void selectText(QComboBox* list, const std::string& entry) {
+    const int index = list->findText(latin(entry), Qt::MatchExactly | Qt::MatchCaseSensitive);
+    if (index >= 0) list->setCurrentIndex(index);
+}
+
+// A caption; a screen reader takes it for that of the control beside or below it.
+QLabel* caption(const char* words, QWidget* control = nullptr) {
+    auto* label = new QLabel{latin(words)};
     label->setTextFormat(Qt::PlainText);
+    label->setBuddy(control);
     return label;
+}
+
+// The one chart file among what is dragged, or an empty path.
+QString chartFileIn(const QMimeData& dragged) {
+    const QList<QUrl> urls = dragged.urls();
+    const QString path = urls.size() == 1 ? urls.constFirst().toLocalFile() : QString{};
+    return hasChartFileEnding(path.toStdString()) ? path : QString{};
 }
 
 }  // namespace
 
-frmMain::frmMain(ChartModel& chart) : chart_(chart) {
-    setObjectName(QStringLiteral("frmMain"));
+frmMain::frmMain() {
+    named(this, "frmMain");
     setWindowFlags(Qt::Window);
     setWindowTitle(look::productName());
+    setAcceptDrops(true);
     createControls();
     Form_Load();
-    fitToScreen();
     txtName->setFocus();
 }
 
@@ -105,60 +105,54 @@ QWidget* frmMain::createBanner() {
     mark->setAccessibleName(tr("Lantern"));
     mark->setPixmap(windowIcon().pixmap(QSize{48, 48}, devicePixelRatioF()));
     row->addWidget(mark);
-    lblBanner = named(new LinkLabel{look::productName(), banner}, "lblBanner");
-    QFont title = lblBanner->font();
-    title.setPointSizeF(title.pointSizeF() * 1.7);
-    title.setBold(true);
-    lblBanner->setFont(title);
-    lblBanner->setAccessibleDescription(tr("Opens the home page"));
-    connect(lblBanner, &LinkLabel::clicked, this, [this] { emit pageRequested(WebPage::home); });
-    row->addWidget(lblBanner);
+    row->addWidget(new BannerLink{look::titleFont(), this, banner});
     row->addStretch();
     return banner;
 }
 
 QWidget* frmMain::createDetails() {
-    txtName = named(new NameBox, "txtName");
-    txtName->setAccessibleName(tr("Name"));
-    cmbDate = listNamed("cmbDate", "Date", "30");
-    cmbMonth = listNamed("cmbMonth", "Month", "September");
-    cmbYear = listNamed("cmbYear", "Year", "2000");
-    cmbHour = listNamed("cmbHour", "Hour", "20");
-    cmbMinute = listNamed("cmbMinute", "Minutes", "50");
-    connect(txtName, &NameBox::rejected, this, &frmMain::txtName_KeyRejected);
+    filter_ = new NameValidator{this};
+    // Through the event loop: a message must not be shown in the midst of the box's own work.
+    connectControl(filter_, &NameValidator::rejected, this, &frmMain::txtName_KeyPress, Qt::QueuedConnection);
+    txtName = named(new QLineEdit, "txtName");
+    txtName->setValidator(filter_);
+    cmbDate = named(new DropDownList, "cmbDate");
+    cmbMonth = named(new DropDownList, "cmbMonth");
+    cmbYear = named(new DropDownList, "cmbYear");
+    cmbHour = named(new DropDownList, "cmbHour");
+    cmbMinute = named(new DropDownList, "cmbMinute");
 
-    auto* details = new DetailsFrame{tr("Enter your Details")};
+    auto* details = new QGroupBox{tr("Enter your Details")};
+    details->installEventFilter(this);
+    txtName->installEventFilter(this);
     auto* grid = new QGridLayout{details};
     grid->setHorizontalSpacing(12);
     grid->setColumnStretch(2, 1);
-    grid->addWidget(caption("Name"), 0, 0);
+    grid->addWidget(caption("Name", txtName), 0, 0);
     grid->addWidget(txtName, 0, 1, 1, 3);
     grid->setRowMinimumHeight(1, 6);
-    const auto addList = [grid](int row, int column, const char* heading, QComboBox* list) {
-        grid->addWidget(caption(heading), row, column);
-        grid->addWidget(list, row + 1, column);
-    };
-    addList(2, 1, "Date", cmbDate);
-    addList(2, 2, "Month", cmbMonth);
-    addList(2, 3, "Year", cmbYear);
+    addList(grid, 2, 1, "Date", cmbDate);
+    addList(grid, 2, 2, "Month", cmbMonth);
+    addList(grid, 2, 3, "Year", cmbYear);
     grid->addWidget(caption(" Date Of Birth"), 3, 0);
     grid->setRowMinimumHeight(4, 6);
-    addList(5, 1, "Hour", cmbHour);
-    addList(5, 2, "Minutes", cmbMinute);
+    addList(grid, 5, 1, "Hour", cmbHour);
+    addList(grid, 5, 2, "Minutes", cmbMinute);
     grid->addWidget(caption("Time Of Birth"), 6, 0);
     return details;
 }
 
-QWidget* frmMain::createButtons() {
-    cmdGenerateChart =
-        named(new QPushButton{tr("Get My &Palace Lantern Interpretation")}, "cmdGenerateChart");
-    cmdOpen = named(new QPushButton{tr("Click Here To Open Previously Saved Palace Lantern Interpretation")},
-                    "cmdOpen");
-    cmExit = named(new QPushButton{tr("&Exit")}, "cmExit");
-    connect(cmdGenerateChart, &QPushButton::clicked, this, &frmMain::cmdGenerateChart_Click);
-    connect(cmdOpen, &QPushButton::clicked, this, &frmMain::cmdOpen_Click);
-    connect(cmExit, &QPushButton::clicked, this, &frmMain::cmExit_Click);
+void frmMain::addList(QGridLayout* grid, int row, int column, const char* heading, QComboBox* list) {
+    grid->addWidget(caption(heading, list), row, column);
+    grid->addWidget(list, row + 1, column);
+}
 
+QWidget* frmMain::createButtons() {
+    cmdGenerateChart = newButton("cmdGenerateChart", "Get My &Palace Lantern Interpretation", this,
+                                 &frmMain::cmdGenerateChart_Click);
+    cmdOpen = newButton("cmdOpen", "Click Here To Open Previously Saved Palace Lantern Interpretation", this,
+                        &frmMain::cmdOpen_Click);
+    cmExit = newButton("cmExit", "&Exit", this, &frmMain::cmExit_Click);
     for (QPushButton* button : {cmdGenerateChart, cmdOpen, cmExit}) {
         button->setMinimumHeight(button->fontMetrics().height() + 14);
     }
@@ -173,63 +167,60 @@ QWidget* frmMain::createButtons() {
 }
 
 void frmMain::createMenus() {
-    auto* menus = new QMenuBar{this};
+    QMenuBar* menus = newMenuBar(this);
     auto* mnuFile = named(menus->addMenu(tr("&File")), "mnuFile");
-    const auto addEntry = [this, mnuFile](const char* name, const char* words, void (frmMain::*handler)()) {
-        named(mnuFile->addAction(QString::fromLatin1(words), this, handler, Qt::QueuedConnection), name);
-    };
-    addEntry("mnuGenerateChart", "Get My &Palace Lantern Chart", &frmMain::cmdGenerateChart_Click);
+    addEntry(mnuFile, "mnuGenerateChart", "Get My &Palace Lantern Chart", this,
+             &frmMain::cmdGenerateChart_Click);
     // The name's spelling is the system's own.
-    addEntry("mnuOpenPrevioyslySavedChart", "Open Previously Saved Palace Lantern Interpretation",
-             &frmMain::cmdOpen_Click);
+    addEntry(mnuFile, "mnuOpenPrevioyslySavedChart", "Open Previously Saved Palace Lantern Interpretation",
+             this, &frmMain::cmdOpen_Click, QKeySequence::Open);
     mnuFile->addSeparator();
-    addEntry("mnuExit", "E&xit", &frmMain::cmExit_Click);
-    auto* mnuHelp = new HelpMenu{menus};
-    menus->addMenu(mnuHelp);
-    connect(mnuHelp, &HelpMenu::pageRequested, this, &frmMain::pageRequested);
-    connect(mnuHelp, &HelpMenu::aboutRequested, this, &frmMain::aboutRequested);
+    addEntry(mnuFile, "mnuExit", "E&xit", this, &frmMain::cmExit_Click);
+    menus->addMenu(new HelpMenu{this});
     layout()->setMenuBar(menus);
 }
 
 void frmMain::cmdGenerateChart_Click() {
-    BirthEntry birth = entry();
-    if (!passesCheck(birth)) return;
-    // The person sees each chart in a chart window of its own, with its cells as loaded.
-    chart_.loadCells();
-    if (generateChart(birth, chart_) == Generation::dateRefused) {
-        showMessage(this, QMessageBox::Information, tr("Please Enter Correct Date"));
-        return;
-    }
-    select(birth.date);
-    emit chartGenerated(birth);
+    const BirthEntry birth = entry();
+    if (passesCheck(birth)) emit entered(birth);
 }
 
 void frmMain::cmdOpen_Click() {
     const QString path = askForChartFile(this);
-    if (path.isEmpty()) return;
-    const std::string encoded = QFile::encodeName(path).toStdString();
-    if (!hasChartFileEnding(encoded)) {
-        showMessage(this, QMessageBox::Critical, tr("Please Check The File."));
-        return;
-    }
-    const ChartFileValues values = readChartFile(encoded);
-    txtName->setText(text(values.name));
-    selectText(cmbDate, values.day);
-    selectText(cmbMonth, values.month);
-    selectText(cmbYear, values.year);
-    cmdGenerateChart_Click();
+    if (!path.isEmpty() && fillFrom(path)) cmdGenerateChart_Click();
 }
 
 void frmMain::cmExit_Click() { close(); }
 
-void frmMain::txtName_KeyRejected() {
+// What the name's filter keeps out is told once for each key, and once for a whole paste.
+void frmMain::txtName_KeyPress() {
     showMessage(this, QMessageBox::Information, tr("Please Enter Only Letters"));
 }
+
+bool frmMain::fillFrom(const QString& path) {
+    const auto bytes =
+        hasChartFileEnding(path.toStdString()) ? readFile(path, longestChartFile) : std::nullopt;
+    if (!bytes) {
+        showMessage(this, QMessageBox::Critical, tr("Please Check The File."));
+        return false;
+    }
+    const ChartFileValues values = chartFileValues(*bytes);
+    // A name from a file stands as it was saved; only what a person enters passes the filter.
+    txtName->setValidator(nullptr);
+    txtName->setText(latin(values.name));
+    txtName->setValidator(filter_);
+    selectText(cmbDate, values.day);
+    selectText(cmbMonth, values.month);
+    selectText(cmbYear, values.year);
+    return true;
+}
+
+void frmMain::askForTime() { cmbHour->setFocus(); }
 
 bool frmMain::passesCheck(const BirthEntry& birth) {
     const auto failure = checkBirthEntry(birth);
     if (!failure) return true;
-    showMessage(this, QMessageBox::Information, text(failure->message));
+    showMessage(this, QMessageBox::Information, latin(failure->message));
     (failure->field == InputField::txtName ? static_cast<QWidget*>(txtName) : cmbDate)->setFocus();
     return false;
 }
@@ -241,20 +232,16 @@ BirthEntry frmMain::entry() const {
             cmbMinute->currentIndex()};
 }
 
-void frmMain::select(const DateLists& date) {
+void frmMain::showDate(const PickedDate& date) {
     cmbDate->setCurrentIndex(date.dayPosition);
     cmbMonth->setCurrentIndex(date.monthPosition);
     cmbYear->setCurrentIndex(date.yearPosition);
 }
 
-// A text that is no entry leaves the list as it was.
-void frmMain::selectText(QComboBox* list, const std::string& entryText) {
-    const int index = list->findText(text(entryText), Qt::MatchExactly | Qt::MatchCaseSensitive);
-    if (index >= 0) list->setCurrentIndex(index);
-}
+void frmMain::refuseDate() { showMessage(this, QMessageBox::Information, tr("Please Enter Correct Date")); }
 
 void frmMain::clearEntry() {
-    txtName->clear();
+    txtName->setText({});  // which, other than clear(), can't be undone
     for (QComboBox* list : {cmbDate, cmbMonth, cmbYear, cmbHour, cmbMinute}) list->setCurrentIndex(0);
     txtName->setFocus();
 }
@@ -264,8 +251,41 @@ void frmMain::closeEvent(QCloseEvent* event) {
     emit closed();
 }
 
+void frmMain::dragEnterEvent(QDragEnterEvent* event) {
+    if (mayAct(*this) && !chartFileIn(*event->mimeData()).isEmpty()) event->acceptProposedAction();
+}
+
+void frmMain::dropEvent(QDropEvent* event) {
+    event->acceptProposedAction();
+    // Later, so that the window from which the file comes need not wait for the chart.
+    const auto open = [this, path = chartFileIn(*event->mimeData())] {
+        if (mayAct(*this) && fillFrom(path)) cmdGenerateChart_Click();
+    };
+    QMetaObject::invokeMethod(this, open, Qt::QueuedConnection);
+}
+
+bool frmMain::eventFilter(QObject* watched, QEvent* event) {
+    const bool isKey = event->type() == QEvent::KeyPress || event->type() == QEvent::KeyRelease;
+    const bool isDrag = event->type() == QEvent::DragEnter;
+    // QGroupBox of Qt 6.4 swallows Enter on some desktops, which is meant for the form's default button; and
+    // a file that is dragged over the name box is meant for the form, though it comes with a text, too.
+    if ((watched == txtName && isDrag && static_cast<QDragEnterEvent*>(event)->mimeData()->hasUrls()) ||
+        (watched != txtName && isKey)) {
+        event->ignore();
+        return true;
+    }
+    return QDialog::eventFilter(watched, event);
+}
+
 // Escape in the first window of the program would lose what was entered: it does nothing.
 void frmMain::reject() {}
+
+// Anew each time: the screen may have changed while the form was hidden.
+void frmMain::showEvent(QShowEvent* event) {
+    if (!event->spontaneous()) fitToScreen();
+    setAttribute(Qt::WA_KeyboardFocusChange);  // else some styles show the focus only after a key
+    QDialog::showEvent(event);
+}
 
 // As large as its content and in the middle of the screen. Where the screen is smaller, the form scrolls.
 void frmMain::fitToScreen() {
@@ -277,6 +297,7 @@ void frmMain::fitToScreen() {
     QSize size = scroll_->widget()->sizeHint() + QSize{0, layout()->menuBar()->sizeHint().height()} + spare;
     if (size.height() > room.height()) size.rwidth() += scroll_->verticalScrollBar()->sizeHint().width();
     size = size.boundedTo(room);
+    setMinimumSize(size);
     resize(size);
     const QSize rest = (available.size() - size) / 2;
     move(available.topLeft() + QPoint{rest.width(), rest.height() / 2});

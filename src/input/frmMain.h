@@ -1,25 +1,36 @@
-// The input form: a name, a date and a time go in; a chart is cast.
+// The input form: a name, a date and a time go in, checked, and are handed over.
 #pragma once
 
 #include <QDialog>
 
 #include "chart/birth_entry.h"
-#include "chart/generate.h"
-#include "input/input_check.h"
-#include "style/help_menu.h"
 
-class LinkLabel;
-class NameBox;
+class NameValidator;
 class QComboBox;
-class QLabel;
+class QGridLayout;
+class QLineEdit;
 class QPushButton;
 class QScrollArea;
 
 class frmMain : public QDialog {
     Q_OBJECT
   public:
-    // Casts into the given chart, which outlives the form. Opens on 1 January 1970, 0:00, with an empty name.
-    explicit frmMain(ChartModel& chart);
+    // Opens on 1 January 1970, 0:00, with an empty name.
+    frmMain();
+
+    // Fills the name and the date lists from a chart file and returns whether it could be read; a value that
+    // is no entry leaves its list as it was. Says so where the name or the file is not that of a chart file;
+    // the form then stays as it is.
+    bool fillFrom(const QString& path);
+
+    // For a chart file that was opened with the program: the time, which no chart file keeps, comes next.
+    void askForTime();
+
+    // Selects the date for which the chart was cast, which the midnight rule may have moved.
+    void showDate(const PickedDate& date);
+
+    // Says that no chart can be cast for the date.
+    void refuseDate();
 
     // Empties the name and takes every list back to its first entry.
     void clearEntry();
@@ -30,15 +41,16 @@ class frmMain : public QDialog {
     void cmExit_Click();
 
   signals:
-    // A chart stands in the model; the entry is as the lists now stand.
-    void chartGenerated(const BirthEntry& entry);
-    void pageRequested(WebPage page);
-    void aboutRequested();
+    void entered(const BirthEntry& entry);  // has passed the check
     void closed();
 
   protected:
     void closeEvent(QCloseEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
     void reject() override;
+    void showEvent(QShowEvent* event) override;
 
   private:
     void Form_Load();
@@ -48,16 +60,14 @@ class frmMain : public QDialog {
     QWidget* createBanner();
     QWidget* createDetails();
     QWidget* createButtons();
-    void txtName_KeyRejected();
-    BirthEntry entry() const;
-    void select(const DateLists& date);
-    void selectText(QComboBox* list, const std::string& text);
+    void addList(QGridLayout* grid, int row, int column, const char* heading, QComboBox* list);
+    void txtName_KeyPress();
     bool passesCheck(const BirthEntry& birth);
+    BirthEntry entry() const;
 
-    ChartModel& chart_;
     QScrollArea* scroll_;
-    LinkLabel* lblBanner;
-    NameBox* txtName;
+    QLineEdit* txtName;
+    NameValidator* filter_;
     QComboBox* cmbDate;
     QComboBox* cmbMonth;
     QComboBox* cmbYear;

@@ -15,5 +15,5 @@ struct InputFailure {
 };
 
 // The first failure, or nothing where the entry will do: the name is not empty (blanks will do), and the
-// month has the day. Leap years are those divisible by 4, which is exact for every year of the list.
+// month has the day.
 std::optional<InputFailure> checkBirthEntry(const BirthEntry& entry);

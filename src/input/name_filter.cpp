@@ -2,7 +2,6 @@
 
 FilteredName filterName(std::u16string_view text) {
     FilteredName result{{}, false};
-    result.accepted.reserve(text.size());
     for (const char16_t character : text) {
         if (character >= u'a' && character <= u'z') {
             result.accepted += static_cast<char16_t>(character - 32);

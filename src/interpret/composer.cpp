@@ -20,37 +20,31 @@ constexpr std::string_view details = "Details about the Star present in this hou
 using Runs = std::vector<TextRun>;
 
 TextRun paragraph(std::string_view text, const TextStyle& style) {
-    TextRun run{{}, style};
-    run.text.reserve(text.size() + paragraphEnd.size());
-    run.text.append(text).append(paragraphEnd);
-    return run;
+    return {std::string{text}.append(paragraphEnd), style};
 }
 
-void append(Runs& runs, std::string_view headingText, TextRun body) {
+void append(Runs& runs, std::string_view headingText, std::string_view body, const TextStyle& style) {
     runs.push_back({std::string{headingText}, heading});
-    runs.push_back(std::move(body));
+    runs.push_back(paragraph(body, style));
 }
 
 void appendStar(Runs& runs, std::size_t star, std::size_t palace) {
-    append(runs, starTexts[star].heading, paragraph(starTexts[star].general, starGeneral));
+    append(runs, starTexts[star].heading, starTexts[star].general, starGeneral);
     runs.push_back(paragraph(starInPalaceTexts[star][palace], starInPalaceBody));
 }
 
 // The index of the palace whose name stands in the cell, or palaceTextCount where the name is not known.
 std::size_t palaceIn(const ChartModel& chart, CellIndex cell) {
-    const std::string_view name = chart.cell(cell).lblPalace.text();
-    const auto found = std::find_if(palaceTexts.begin(), palaceTexts.end(),
-                                    [name](const PalaceText& palace) { return palace.key == name; });
+    const auto found = std::ranges::find(palaceTexts, chart.cell(cell).lblPalace.text(), &PalaceText::key);
     return static_cast<std::size_t>(found - palaceTexts.begin());
 }
 
 void appendPalace(Runs& runs, const ChartModel& chart, CellIndex cell) {
     const std::size_t palace = palaceIn(chart, cell);
     const bool known = palace < palaceTexts.size();
-    if (known)
-        append(runs, palaceTexts[palace].heading, paragraph(palaceTexts[palace].description, palaceBody));
+    if (known) append(runs, palaceTexts[palace].heading, palaceTexts[palace].description, palaceBody);
     runs.push_back(paragraph(details, detailsLine));
-    if (chart.bodyPalace == cell) append(runs, bodyPalaceHeading, paragraph(bodyPalaceText, palaceBody));
+    if (chart.bodyPalace == cell) append(runs, bodyPalaceHeading, bodyPalaceText, palaceBody);
     for (std::size_t star = 0; known && star < starTexts.size(); ++star) {
         if (chart.cellOf(starTexts[star].star) == cell) appendStar(runs, star, palace);
     }

@@ -27,12 +27,6 @@ double luminance(const QColor& colour) {
     return 0.2126 * part(colour.redF()) + 0.7152 * part(colour.greenF()) + 0.0722 * part(colour.blueF());
 }
 
-QColor mixed(const QColor& colour, const QColor& other, float share) {
-    const auto part = [share](float value, float otherValue) { return value + share * (otherValue - value); };
-    return QColor::fromRgbF(part(colour.redF(), other.redF()), part(colour.greenF(), other.greenF()),
-                            part(colour.blueF(), other.blueF()));
-}
-
 }  // namespace
 
 QFont textFont(const QFont& like) {
@@ -66,28 +60,27 @@ QColor linkColour(const QWidget& on) {
 }
 
 QPalette legibleSelection(const QPalette& desktop) {
-    QColor letters = desktop.color(QPalette::HighlightedText);
-    QColor behind = desktop.color(QPalette::Highlight);
     QPalette palette;
-    if (contrast(behind, letters) >= legible) return palette;
-    if (contrast(blue, desktop.color(QPalette::Base)) >= legible) {
-        letters = Qt::white;
-        behind = blue;
-    }
-    const QColor& goal = luminance(letters) > 0.18 ? QColorConstants::Black : QColorConstants::White;
-    for (int step = 0; step < 20 && contrast(behind, letters) < legible; ++step)
-        behind = mixed(behind, goal, 0.05F);
-    palette.setColor(QPalette::Highlight, behind);
-    palette.setColor(QPalette::HighlightedText, letters);
+    if (contrast(desktop.color(QPalette::Highlight), desktop.color(QPalette::HighlightedText)) >= legible)
+        return palette;
+    palette.setColor(QPalette::Highlight, blue);
+    palette.setColor(QPalette::HighlightedText, Qt::white);
     return palette;
 }
 
 QPalette legibleTitle(const QPalette& desktop) {
-    QPalette palette;
-    if (contrast(desktop.color(QPalette::Highlight), Qt::white) >= legible) return palette;
-    palette.setColor(QPalette::Highlight, blue);
-    palette.setColor(QPalette::HighlightedText, Qt::white);
+    QPalette palette = desktop;
+    if (contrast(desktop.color(QPalette::Highlight), Qt::white) < legible)
+        palette.setColor(QPalette::Highlight, blue);
+    if (luminance(desktop.color(QPalette::Text)) > 0.18) palette.setColor(QPalette::Text, ink);
     return palette;
+}
+
+QFont titleFont() {
+    QFont font;
+    font.setPointSizeF(font.pointSizeF() * 1.7);
+    font.setBold(true);
+    return font;
 }
 
 QString productName() { return QStringLiteral("Palace Lantern"); }

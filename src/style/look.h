@@ -11,20 +11,20 @@ namespace look {
 
 // The colours come from the analysis; the papers are the light grounds on which they are read, whatever the
 // desktop's theme.
-inline const QColor blue{13, 36, 166};
-inline const QColor brown{101, 14, 14};
-inline const QColor red{128, 0, 0};
-inline const QColor green{0, 96, 40};
-inline const QColor ink{32, 28, 26};
-inline const QColor quiet{96, 84, 78};
-inline const QColor line{186, 164, 140};
-inline const QColor paper{255, 252, 245};
-inline const QColor titlePaper{250, 243, 230};
-inline const QColor ground{240, 231, 214};
+inline constexpr QColor blue{13, 36, 166};
+inline constexpr QColor brown{101, 14, 14};
+inline constexpr QColor red{128, 0, 0};
+inline constexpr QColor green{0, 96, 40};
+inline constexpr QColor ink{32, 28, 26};
+inline constexpr QColor quiet{96, 84, 78};
+inline constexpr QColor line{186, 164, 140};
+inline constexpr QColor paper{255, 252, 245};
+inline constexpr QColor titlePaper{250, 243, 230};
+inline constexpr QColor ground{240, 231, 214};
 
 inline constexpr double twipsPerPixel = 15.0;  // 1440 twips and 96 pixels an inch
 
-// The typeface for all text: Verdana, or the face that comes closest to it.
+// The font in the typeface for all text: Verdana, or the face that comes closest to it.
 QFont textFont(const QFont& like);
 
 // The same at a size in pixels, for text that is drawn to the chart's scale.
@@ -38,13 +38,16 @@ double contrast(const QColor& one, const QColor& other);
 // desktop's own can. Some desktops put white on a light blue.
 QPalette legibleSelection(const QPalette& desktop);
 
-// The same for a window within a window, whose title the toolkit writes in white on the colour of what is
-// selected, whatever that is; nothing where white can be read on it.
+// The palette for the title of an active window within a window, which is white on the colour of what is
+// selected: with a colour on which white can be read, and a dark shadow.
 QPalette legibleTitle(const QPalette& desktop);
 
 // Marks text that opens a page: the blue of the headings, or where that can't be read on the ground, the
 // desktop's own link colour.
 QColor linkColour(const QWidget& on);
+
+// The face of a window's title within the window: large and bold.
+QFont titleFont();
 
 // The product's name and its mark.
 QString productName();

@@ -2,24 +2,17 @@
 
 #include "input/frmMain.h"
 
-#include <QClipboard>
-#include <QDropEvent>
-#include <QInputMethodEvent>
-#include <QMenu>
-#include <QMimeData>
-#include <QSignalSpy>
-
 #include "files/chart_file.h"
 #include "form_driver.h"
 
 namespace {
 
-const QStringList onlyLetters{"Palace Lantern|information|Please Enter Only Letters"_q};
+const QStringList onlyLetters{"Palace Lantern|information|Please Enter Only Letters"};
+const QString old = "OLD 1 January 2001 13 30";
 
 class InputForm : public TemporaryFolder {
   protected:
     InputForm() {
-        LunarMonth = 0;
         form_.show();
         EXPECT_TRUE(QTest::qWaitForWindowActive(&form_));
     }
@@ -29,127 +22,151 @@ class InputForm : public TemporaryFolder {
         return name_->text();
     }
 
-    // By the entry of that name in the box's own menu.
-    void choose(const QString& words) {
-        QTimer::singleShot(50, [&words] {
-            auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
-            for (QAction* entry : menu->actions()) {
-                if (entry->text().startsWith(words)) menu->setActiveAction(entry);
-            }
-            QTest::keyClick(menu, Qt::Key_Return);
-        });
-        QContextMenuEvent event{QContextMenuEvent::Keyboard, {5, 5}, name_->mapToGlobal(QPoint{5, 5})};
-        QApplication::sendEvent(name_, &event);
+    // Drags to the name box and drops what the pointer tells that it may drop there.
+    void drop(const QMimeData& dragged) {
+        QDragEnterEvent enter{{5, 5}, Qt::CopyAction, &dragged, Qt::LeftButton, Qt::NoModifier};
+        QApplication::sendEvent(name_, &enter);
+        if (!enter.isAccepted()) return;
+        QDropEvent drop{{5, 5}, Qt::CopyAction, &dragged, Qt::LeftButton, Qt::NoModifier};
+        QApplication::sendEvent(dragged.hasUrls() ? static_cast<QWidget*>(&form_) : name_, &drop);
+        QCoreApplication::processEvents();
     }
 
-    static QStringList open(const std::string& path) {
-        return messagesOf([] { click("cmdOpen"_q); }, path);
-    }
-
-    ChartModel chart_;
-    frmMain form_{chart_};
-    QLineEdit* name_ = form_.findChild<QLineEdit*>("txtName"_q);
-    QSignalSpy generated_{&form_, &frmMain::chartGenerated};
+    frmMain form_;
+    QLineEdit* name_ = form_.findChild<QLineEdit*>("txtName");
+    QSignalSpy handedOver_{&form_, &frmMain::entered};
 };
 
-TEST_F(InputForm, OpensOnTheFirstEntries) {
-    EXPECT_EQ(entered(), " 1 January 1970 0 0"_q);
-    QString ends;
-    for (const QString& name : {"cmbDate"_q, "cmbMonth"_q, "cmbYear"_q, "cmbHour"_q, "cmbMinute"_q}) {
+TEST_F(InputForm, OpensOnTheFirstEntriesAndTurnsOnlyTheListInFocus) {
+    QString entries = entered();
+    for (const QString& name : dateAndTime) {
         const auto* list = find<QComboBox>(name);
-        ends += "%1..%2 (%3) "_q.arg(list->itemText(0), list->itemText(list->count() - 1)).arg(list->count());
+        entries += " .." + list->itemText(list->count() - 1);
     }
-    EXPECT_EQ(ends, "1..31 (31) January..December (12) 1970..2012 (43) 0..23 (24) 0..59 (60) "_q);
+    EXPECT_EQ(entries, " 1 January 1970 0 0 ..31 ..December ..2012 ..23 ..59");
+    auto* year = find<QComboBox>("cmbYear");
+    for (const int expected : {0, 1}) {
+        QWheelEvent wheel{{5, 5}, {5, 5}, {}, {0, -120}, Qt::NoButton, {}, Qt::NoScrollPhase, false};
+        QApplication::sendEvent(year, &wheel);
+        EXPECT_EQ(year->currentIndex(), expected);
+        year->setFocus();
+    }
 }
 
-TEST_F(InputForm, LetsOnlyLettersAndBlanksBeTyped) {
-    EXPECT_EQ(messagesOf([this] { QTest::keyClicks(name_, "azAZ o'neil"_q); }), onlyLetters);
-    EXPECT_EQ(name_->text(), "AZAZ ONEIL"_q);
-    for (const QString& key : {"1"_q, "@"_q, "["_q, "`"_q, "{"_q, "\u00E9"_q}) {
-        const auto type = [&] { QTest::sendKeyEvent(QTest::Click, name_, Qt::Key_unknown, key, {}); };
-        EXPECT_EQ(messagesOf(type), onlyLetters) << key.toStdString();
-    }
+TEST_F(InputForm, LetsOnlyLettersAndBlanksIn) {
+    const auto type = [this](const QString& text, Qt::KeyboardModifiers held = Qt::NoModifier) {
+        return messagesOf([&] { QTest::sendKeyEvent(QTest::Click, name_, Qt::Key_unknown, text, held); });
+    };
+    for (const char* letter : {"a", "z", "A", "Z", " "}) EXPECT_EQ(type(letter), QStringList{}) << letter;
+    for (const char* other : {"1", "@", "[", "`", "{", "'", "\u00E9"}) EXPECT_EQ(type(other), onlyLetters);
+    const Qt::KeyboardModifiers altGr = Qt::ControlModifier | Qt::AltModifier;
+    EXPECT_EQ(type("1", Qt::ControlModifier | Qt::KeypadModifier), onlyLetters);
+    EXPECT_EQ(type("@", altGr), onlyLetters);
+    EXPECT_EQ(type("q", altGr), QStringList{});
+    EXPECT_EQ(name_->text(), "AZAZ Q");
     const QStringList messages = messagesOf([this] {
-        press(Qt::Key_Home);
-        EXPECT_EQ(press(Qt::Key_Delete), "ZAZ ONEIL"_q);
-        press(Qt::Key_Right);
-        EXPECT_EQ(press(Qt::Key_Backspace), "AZ ONEIL"_q);
         press(Qt::Key_A, Qt::ControlModifier);
-        EXPECT_EQ(press(Qt::Key_X, Qt::ControlModifier), ""_q);
-        EXPECT_EQ(press(Qt::Key_V, Qt::ControlModifier), "AZ ONEIL"_q);
+        EXPECT_EQ(press(Qt::Key_X, Qt::ControlModifier), "");
+        QGuiApplication::clipboard()->setText(" JOHN\r\n");
+        EXPECT_EQ(press(Qt::Key_V, Qt::ControlModifier), " JOHN");
     });
     EXPECT_EQ(messages, QStringList{});
-}
-
-TEST_F(InputForm, FiltersEveryOtherWayIn) {
     QMimeData dragged;
-    dragged.setText("Anna-Maria 2"_q);
-    QDropEvent drop{{5, 5}, Qt::CopyAction, &dragged, Qt::LeftButton, Qt::NoModifier};
+    dragged.setText("Anna-Maria 2");
     QInputMethodEvent commit;
-    commit.setCommitString("Anna-Maria 2"_q);
-    QClipboard* clipboard = QGuiApplication::clipboard();
-    clipboard->setText("Anna-Maria 2"_q);
-    if (clipboard->supportsSelection()) clipboard->setText("Anna-Maria 2"_q, QClipboard::Selection);
-    const bool selects = clipboard->supportsSelection();
-    const std::pair<const char*, std::function<void()>> ways[]{
-        {"paste by key", [&] { press(Qt::Key_V, Qt::ControlModifier); }},
-        {"middle button", [&] { selects ? QTest::mouseClick(name_, Qt::MiddleButton) : choose("&Paste"_q); }},
-        {"paste by menu", [&] { choose("&Paste"_q); }},
-        {"drop", [&] { static_cast<QObject*>(name_)->event(&drop); }},
-        {"input method", [&] { QApplication::sendEvent(name_, &commit); }},
+    commit.setCommitString("Anna-Maria 2");
+    QGuiApplication::clipboard()->setText("Anna-Maria 2");
+    const std::function<void()> otherWays[]{
+        [&] { press(Qt::Key_V, Qt::ControlModifier); },
+        [&] { drop(dragged); },
+        [&] { QApplication::sendEvent(name_, &commit); },
     };
-    for (const auto& [way, use] : ways) {
+    for (const auto& way : otherWays) {
         name_->clear();
-        EXPECT_EQ(messagesOf(use), onlyLetters) << way;
-        EXPECT_EQ(name_->text(), "ANNAMARIA "_q) << way;
+        EXPECT_EQ(messagesOf(way), onlyLetters);
+        EXPECT_EQ(name_->text(), "ANNAMARIA ");
     }
 }
 
-TEST_F(InputForm, RefusesWithAMessageAndTheFocusWhereItBelongs) {
-    const auto refuses = [this](const char* name, const char* date, int minute, const char* message) {
-        enter(QLatin1String{name}, date, 0, minute);
-        const QString before = entered();
-        EXPECT_EQ(messagesOf([] { click("cmdGenerateChart"_q); }),
-                  QStringList{"Palace Lantern|information|"_q + QLatin1String{message}});
-        EXPECT_EQ(entered(), before);
-        return form_.focusWidget()->objectName();
+TEST_F(InputForm, KeepsTheFocusInTheNameBoxAfterMenusAndMessages) {
+    QWindow* keyboard = form_.windowHandle();
+    QTest::keyClick(keyboard, Qt::Key_Alt);
+    QTest::keyClick(keyboard, Qt::Key_A);
+    QTest::keyClick(keyboard, Qt::Key_F, Qt::AltModifier);
+    EXPECT_NE(QApplication::activePopupWidget(), nullptr);
+    QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape);
+    QTest::keyClick(keyboard, Qt::Key_B);
+    EXPECT_EQ(name_->text(), "AB");
+    const auto type = [&] {
+        QTest::keyClick(keyboard, '-');
+        QCoreApplication::processEvents();
     };
-    EXPECT_EQ(refuses("", "31.4.1970", 1, "Please Enter Your Name !"), "txtName"_q);
-    EXPECT_EQ(refuses("A", "29.2.1971", 1, "Please Enter Correct Date Of Birth !"), "cmbDate"_q);
-    EXPECT_EQ(refuses("A", "31.4.1970", 1, "Please Enter Correct Date Of of Birth !"), "cmbDate"_q);
-    refuses("A", "31.12.1999", 0, "Please Enter Correct Date");
-    refuses("A", "31.12.2012", 0, "Please Enter Correct Date");
-    EXPECT_EQ(generated_.count(), 0);
+    const auto typeOnAndConfirm = [](QWidget& message) {
+        for (const Qt::Key key : {Qt::Key_Space, Qt::Key_O}) QTest::keyClick(message.windowHandle(), key);
+        QCoreApplication::processEvents();
+        EXPECT_TRUE(message.isVisible());
+        QTest::keyClick(message.windowHandle(), Qt::Key_Return);
+    };
+    EXPECT_EQ(withModals(type, typeOnAndConfirm), 1);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return name_->hasFocus(); }));
 }
 
-TEST_F(InputForm, CastsOnEnterAndMovesTheListsAtMidnight) {
-    enter(" A"_q, "31.12.1998", 0, 0);
-    press(Qt::Key_Return);
-    EXPECT_EQ(generated_.count(), 1);
-    EXPECT_EQ(entered(), " A 1 January 1999 0 0"_q);
-    EXPECT_EQ(chart_.input.year, 1998);
+TEST_F(Program, CastsOnEnterAndMovesTheListsAtMidnight) {
+    enter("A", "31.12.1999", 0, 0);
+    EXPECT_EQ(messagesOf([] { QTest::keyClick(find("txtName"), Qt::Key_Return); }),
+              QStringList{"Palace Lantern|information|Please Enter Correct Date"});
+    EXPECT_EQ(entered(), "A 31 December 1999 0 0");
+    enter(" A", "31.12.1998", 0, 0);
+    QTest::keyClick(find("cmbMinute"), Qt::Key_Return);
+    EXPECT_EQ(entered(), " A 1 January 1999 0 0");
+    EXPECT_EQ(find<QLabel>("lblDateOfBirth")->text(), "January/1/1999");
 }
 
-TEST_F(InputForm, OpensChartFiles) {
-    const std::string path = folder_ + "/chart.plf";
-    writeChartFile(path, {u"O'NEIL <b>", 1985, "March", 5});
-    enter("OLD"_q, "1.1.2001", 13, 30);
-    EXPECT_EQ(open(""), QStringList{});
-    EXPECT_EQ(entered(), "OLD 1 January 2001 13 30"_q);
-    EXPECT_EQ(open(path), QStringList{});
-    EXPECT_EQ(entered(), "O'NEIL <b> 5 March 1985 13 30"_q);
-    EXPECT_EQ(generated_.count(), 1);
-    const std::string bytes = read(path);
-    write(path, bytes.substr(0, bytes.size() - 6));  // without the year
-    enter("OLD"_q, "1.1.2001", 13, 30);
-    EXPECT_EQ(open(path), QStringList{});
-    EXPECT_EQ(entered(), "O'NEIL <b> 5 March 2001 13 30"_q);
-    write(path, "");
-    EXPECT_EQ(open(path), QStringList{"Palace Lantern|information|Please Enter Your Name !"_q});
+TEST_F(InputForm, OpensChartFilesAndIsLeftAsItIsByOthers) {
+    const std::string bytes = chartFileBytes({u"O'NEIL <b>", 1985, "March", 5});
+    write(folder_ + "/chart.plf", bytes);
     write(folder_ + "/chart.txt", bytes);
-    enter("OLD"_q, "1.1.2001", 13, 30);
-    EXPECT_EQ(open(folder_ + "/chart.txt"), QStringList{"Palace Lantern|critical|Please Check The File."_q});
-    EXPECT_EQ(entered(), "OLD 1 January 2001 13 30"_q);
+    write(folder_ + "/chartplf", bytes.substr(0, bytes.size() - 6));  // without the year
+    std::filesystem::create_symlink("/proc/self/mem", folder_ + "/x.plf");
+    const QString shown = "O'NEIL <b> 5 March 1985 13 30", shownWithoutYear = "O'NEIL <b> 5 March 2001 13 30";
+    const QStringList quiet, bad{"Palace Lantern|critical|Please Check The File."};
+    const QStringList missing{"Palace Lantern|critical|There is no such file.", "stays"};
+    const std::tuple<std::string, QStringList, QString> files[]{
+        {"", quiet, old},
+        {folder_ + "/chart.plf", quiet, shown},
+        {folder_ + "/chart", quiet, shown},
+        {folder_ + "/chartplf", quiet, shownWithoutYear},
+        {folder_ + "/chart.txt", bad, old},
+        {folder_ + "/x.plf", bad, old},
+        {folder_ + "/missing", missing, old},
+    };
+    for (const auto& [path, messages, after] : files) {
+        enter("OLD", "1.1.2001", 13, 30);
+        EXPECT_EQ(messagesOf([] { click("cmdOpen"); }, path), messages) << path;
+        EXPECT_EQ(entered(), after) << path;
+    }
+    EXPECT_EQ(handedOver_.count(), 3);
+    const auto expectFilter = [](QWidget& window) {
+        EXPECT_EQ(dynamic_cast<QFileDialog&>(window).nameFilters(), QStringList{"Palace Lantern (*.plf)"});
+        window.close();
+    };
+    EXPECT_EQ(withModals([this] { press(Qt::Key_O, Qt::ControlModifier); }, expectFilter), 1);
+}
+
+TEST_F(InputForm, TakesOneDroppedChartFileAndRefusesOtherFiles) {
+    const QString path = QString::fromStdString(folder_ + "/chart.plf");
+    write(folder_ + "/chart.plf", chartFileBytes({u"NEW", 1985, "March", 5}));
+    const QUrl chart = QUrl::fromLocalFile(path), text = QUrl::fromLocalFile(path + ".txt");
+    enter("OLD", "1.1.2001", 13, 30);
+    for (const QList<QUrl>& urls : {QList{text}, {chart, chart}, {QUrl{"https://host/chart.plf"}}, {chart}}) {
+        EXPECT_EQ(entered(), old);
+        QMimeData dragged;
+        dragged.setUrls(urls);
+        dragged.setText("x");  // as file managers do
+        drop(dragged);
+    }
+    EXPECT_EQ(entered(), "NEW 5 March 1985 13 30");
+    EXPECT_EQ(handedOver_.count(), 1);
 }
 
 }  // namespace

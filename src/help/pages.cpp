@@ -1,0 +1,74 @@
+#include "help/pages.h"
+
+#include <QApplication>
+#include <QDesktopServices>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QProcess>
+
+#include "style/message.h"
+
+namespace {
+
+QString fileNameOf(WebPage page) {
+    switch (page) {
+        case WebPage::onlineHelp:
+            return QStringLiteral("help.html");
+        case WebPage::download:
+            return QStringLiteral("download.html");
+        case WebPage::home:
+            break;
+    }
+    return QStringLiteral("index.html");
+}
+
+// Beside the program, or where an installed program keeps its data.
+QDir helpFolder() {
+    const QDir program{QCoreApplication::applicationDirPath()};
+    const QDir beside{program.filePath(QStringLiteral("help"))};
+    return beside.exists() ? beside
+                           : QDir{program.filePath(QStringLiteral("../../share/palace-lantern/help"))};
+}
+
+// The opener tells within seconds that it found no browser; what ends later was one.
+constexpr int patience = 10'000;  // milliseconds
+
+// In front of the dialog that may have been opened meanwhile.
+void tellAddress(const QUrl& address, QWidget* asker) {
+    QWidget* dialog = QApplication::activeModalWidget();
+    showMessage(dialog != nullptr ? dialog : asker, QMessageBox::Information,
+                QStringLiteral("No browser could be opened. You find the page here:\n%1")
+                    .arg(address.isLocalFile() ? QDir::toNativeSeparators(address.toLocalFile())
+                                               : address.toString()));
+}
+
+}  // namespace
+
+QUrl addressOf(WebPage page) {
+    const QString base = QStringLiteral(PALACE_LANTERN_WEB_BASE);
+    if (base.isEmpty())
+        return QUrl::fromLocalFile(QDir::cleanPath(helpFolder().absoluteFilePath(fileNameOf(page))));
+    return QUrl{base.endsWith(QLatin1Char('/')) ? base : base + QLatin1Char('/')}.resolved(
+        QUrl{fileNameOf(page)});
+}
+
+// By the opener of free desktops, which tells whether it worked, as QDesktopServices of Qt 6.4 does not;
+// where there is none, as the toolkit knows to. The opener has no parent: it may become the browser, and
+// outlives the program.
+void openPage(WebPage page, QWidget* asker) {
+    const QUrl address = addressOf(page);
+    auto* opener = new QProcess;
+    QElapsedTimer time;
+    time.start();
+    QObject::connect(opener, &QProcess::errorOccurred, asker, [=](QProcess::ProcessError error) {
+        if (error == QProcess::FailedToStart && !QDesktopServices::openUrl(address))
+            tellAddress(address, asker);
+    });
+    QObject::connect(opener, &QProcess::finished, asker, [=](int code) {
+        if (code != 0 && time.elapsed() < patience) tellAddress(address, asker);
+    });
+    QObject::connect(opener, &QProcess::finished, opener, &QObject::deleteLater);
+    opener->setStandardOutputFile(QProcess::nullDevice());
+    opener->setStandardErrorFile(QProcess::nullDevice());
+    opener->start(QStringLiteral("xdg-open"), {address.toString(QUrl::FullyEncoded)});
+}

@@ -1,0 +1,183 @@
+// Charts: the tables of the rules beside the tradition's own rules and verses, whole charts, and what one
+// chart leaves behind for the next.
+
+#include <gtest/gtest.h>
+#include <unicode/calendar.h>
+
+#include <algorithm>
+#include <chrono>
+#include <memory>
+
+#include "calendar/lunar_month.h"
+#include "chart_text.h"
+
+namespace {
+
+// Departures are told by their first date, our number for the usual one, and the first date after them. Days
+// that a month does not have count as its last. In 1987, 1999 and 2012 it is the library that departs.
+TEST(Tradition, HasTheLunarMonthsOfTheUsualCalendarButForTheDepartures) {
+    using namespace std::chrono;
+    UErrorCode error = U_ZERO_ERROR;
+    const std::unique_ptr<icu::Calendar> chinese{icu::Calendar::createInstance(
+        icu::TimeZone::createTimeZone("GMT+8"), icu::Locale{"@calendar=chinese"}, error)};
+    std::string found, before;
+    for (int i = 0; i < yearCount * monthCount * dayCount; ++i) {
+        const PickedDate date{i % dayCount, i / dayCount % monthCount, i / dayCount / monthCount};
+        const int month = date.monthPosition + 1, realDay = std::min(date.day(), date.monthLength());
+        const milliseconds noon = sys_days{year{date.year()} / month / realDay}.time_since_epoch() + 4h;
+        chinese->setTime(static_cast<double>(noon.count()), error);
+        const int usual = chinese->get(UCAL_MONTH, error) + 1;  // in a leap month that of the month before
+        LunarMonth = 0;
+        FindLunarMonth(date);
+        std::string now = ": " + std::to_string(LunarMonth) + " for " + std::to_string(usual) + " to ";
+        if (LunarMonth == usual) now = ", ";
+        if (i > 0 && now != before)
+            found += std::to_string(date.day()) + '.' + std::to_string(month) + '.' +
+                     std::to_string(date.year()) + now;
+        before = now;
+    }
+    EXPECT_TRUE(U_SUCCESS(error));
+    EXPECT_EQ(found,
+              "1.5.1974: 0 for 4 to 22.5.1974, 9.7.1975: 0 for 6 to 10.7.1975, "
+              "30.2.1976: 2 for 1 to 1.3.1976, 17.10.1982: 0 for 9 to 18.10.1982, "
+              "13.5.1983: 0 for 4 to 14.5.1983, 18.6.1985: 0 for 5 to 19.6.1985, "
+              "26.7.1987: 6 for 7 to 24.8.1987, 25.4.1990: 0 for 4 to 26.4.1990, "
+              "23.3.1993: 1 for 3 to 22.4.1993: 2 for 3 to 21.5.1993, 12.1.1994: 0 for 12 to 13.1.1994, "
+              "5.10.1994: 5 for 9 to 3.11.1994: 6 for 10 to 3.12.1994, 29.2.1995: 2 for 1 to 1.3.1995, "
+              "19.2.1996: 0 for 1 to 20.2.1996, 17.5.1996: 0 for 4 to 18.5.1996, "
+              "17.1.1999: 12 for 11 to 18.1.1999, 17.8.2012: 7 for 6 to 18.8.2012, ");
+}
+
+// The tradition's verses. Where the program departs from them on purpose (Tian Kui and Tian Yue of Xin, Bing
+// and Ding), its own reading stands here.
+enum Branch { Yin, Mao, Chen, Si, Wu, Wei, Shen, You, Xu, Hai, Zi, Chou };
+using enum Star;
+
+constexpr std::pair<Star, std::array<Branch, 12>> byMonth[]{
+    {JieShen, {Shen, Shen, Xu, Xu, Zi, Zi, Yin, Yin, Chen, Chen, Wu, Wu}},
+    {TianWu, {Si, Shen, Yin, Hai, Si, Shen, Yin, Hai, Si, Shen, Yin, Hai}},
+    {TianYue, {Xu, Si, Chen, Yin, Wei, Mao, Hai, Wei, Yin, Wu, Xu, Yin}},
+    {YinSha, {Yin, Zi, Xu, Shen, Wu, Chen, Yin, Zi, Xu, Shen, Wu, Chen}}};
+constexpr std::pair<Star, std::array<Branch, 10>> byYearDigit[]{
+    {LuCun, {Shen, You, Hai, Zi, Yin, Mao, Si, Wu, Si, Wu}},
+    {TianKui, {Chou, Hai, Mao, Mao, Chou, Zi, Wu, Wu, Chou, Zi}},
+    {TianYueTwo, {Wei, You, Si, Si, Wei, Shen, Yin, Yin, Wei, Shen}},
+    {TianGuan, {Hai, You, Xu, Wu, Wei, Chen, Si, Yin, Mao, You}},
+    {TianFutwo, {Wu, Si, Wu, Si, You, Shen, Zi, Hai, Mao, Yin}}};
+constexpr std::pair<Star, std::array<Star, 10>> transformedByYearDigit[]{
+    {HuaLu, {TaiYang, JuMen, TianLiang, PoJun, LianZhen, TianJi, TianTong, TaiYin, TanLang, WuQu}},
+    {HuaQuan, {WuQu, TaiYang, ZiWei, JuMen, PoJun, TianLiang, TianJi, TianTong, TaiYin, TanLang}},
+    {Huake, {TianTong, WenQu, ZuoFu, TaiYin, WuQu, ZiWei, WenChang, TianJi, YouBi, TianLiang}},
+    {HuaJi, {TaiYin, WenChang, WuQu, TanLang, TaiYang, TaiYin, LianZhen, JuMen, TianJi, WenQu}}};
+constexpr std::array<const char*, 10> stems{"Jia", "Yi",   "Bing", "Ding", "Wu",
+                                            "Ji",  "Geng", "Xin",  "Ren",  "Gui"};
+constexpr std::pair<const char*, int> bureaus[]{
+    {"Metal", 4}, {"Water", 2}, {"Fire", 6}, {"Earth", 5}, {"Wood", 3}};
+
+// The year's stem goes round in tens, the Five Tigers count the palace stems from it, and the bureau is the
+// sounding element of the Life Palace: its pair of stems and its pair of branches added up. Zi Wei stands at
+// the smallest number of bureaus that reaches the day, counted from Yin, and then goes by the days beyond:
+// forwards where even and backwards where odd; but Earth's day 26 departs on purpose.
+void compare(const ChartModel& chart, int day) {
+    const auto digit = static_cast<std::size_t>(chart.yearDigit), yearStem = (digit + 6) % 10;
+    const auto stemOf = [=](CellIndex cell) { return (yearStem * 2 + 2 + cell.index()) % 10; };
+    EXPECT_EQ(chart.yearStem, stems[yearStem]);
+    for (const CellIndex cell : allCells)
+        EXPECT_TRUE(chart.cell(cell).lblPalaceSteam.text().ends_with(stems[stemOf(cell)]));
+    const std::size_t branchPair = (chart.lifePalace.index() / 2 + 1) % 3;
+    const auto& [element, bureau] = bureaus[(stemOf(chart.lifePalace) / 2 + branchPair) % 5];
+    EXPECT_EQ(chart.lblElement, element);
+    const int count = (day + bureau - 1) / bureau, beyond = count * bureau - day;
+    const CellIndex counted = CellIndex{count - 1} + (beyond % 2 == 0 ? beyond : -beyond);
+    EXPECT_EQ(chart.cellOf(ZiWei), bureau == 5 && day == 26 ? CellIndex{Chen} : counted);
+    for (const auto& [star, branches] : byMonth)
+        EXPECT_EQ(chart.cellOf(star), CellIndex{branches.at(static_cast<std::size_t>(chart.lunarMonth - 1))});
+    for (const auto& [star, branches] : byYearDigit)
+        EXPECT_EQ(chart.cellOf(star), CellIndex{branches[digit]});
+    for (const auto& [star, marked] : transformedByYearDigit)
+        EXPECT_EQ(chart.cellOf(star), chart.cellOf(marked[digit]));
+}
+
+TEST(Tradition, HasStemsBureausAndStarsAsTheyAre) {
+    for (int i = 0; i < 30 * monthCount * 10; ++i) {
+        const PickedDate date{i % 30, i / 30 % monthCount, 10 + i / 30 / monthCount};
+        for (int hour = 0; hour < 24; hour += 2) compare(cast({u"", date, hour, 30}), date.day());
+    }
+}
+
+const BirthEntry first = handCharts[0].entry, other = birth("24.12.2003");
+
+// The program as it has just been started.
+class Chains : public testing::Test {
+  protected:
+    Chains() { LunarMonth = 0; }
+
+    void next(const BirthEntry& entry) { ASSERT_TRUE(generateChart(entry, chart_).has_value()); }
+
+    ChartModel chart_;
+};
+
+TEST_F(Chains, AgreeWithTheHandCharts) {
+    chart_.starCells.fill(CellIndex{7});  // where no star of the last one stands
+    for (const HandChart& hand : handCharts) {
+        chart_.loadCells();
+        next(hand.entry);
+        const auto& [name, year, month, day] = chart_.input;
+        EXPECT_TRUE(name == u"JOHN SMITH");
+        std::string values = std::to_string(day) + ' ' + std::string{month} + ' ' + std::to_string(year) +
+                             ": " + std::to_string(chart_.lunarMonth);
+        for (const Caption& each :
+             {chart_.lblLifePalaceat, chart_.lblBodyPalaceat, chart_.lblElement, chart_.yearStem})
+            values.append(" ").append(each.text());
+        EXPECT_EQ(values, hand.values);
+        for (const CellIndex cell : allCells) EXPECT_EQ(cellLine(chart_, cell), hand.cells[cell.index()]);
+    }
+    constexpr std::array<int, starCount> recorded{1,  0, 10, 9, 8, 5, 11, 0, 1,  2, 3, 4, 5, 9, 8,
+                                                  2,  9, 9,  4, 0, 8, 2,  5, 1,  0, 0, 9, 0, 0, 10,
+                                                  11, 5, 3,  2, 4, 4, 0,  3, 10, 8, 0, 8, 5};
+    for (std::size_t star = 0; star < starCount; ++star)
+        EXPECT_EQ(chart_.starCells[star].value(), recorded[star]) << star;
+}
+
+TEST_F(Chains, FlagsStayUntilTheCellsAreLoadedAndMarkedBranchesAreNotFoundAgain) {
+    const ChartModel firstChart = cast(first);
+    ChartModel both = cast(other);
+    both.cells[0].lblEarthlyBranches = "Zi Wei\r\nYin";
+    next(first);
+    next(other);
+    for (const CellIndex cell : allCells) {
+        for (const FlagField& flag : flagFields)
+            both.cell(cell).*flag.field |= firstChart.cell(cell).*flag.field;
+        EXPECT_EQ(cellLine(chart_, cell), cellLine(both, cell));
+    }
+    for (const auto& entry : {first, birth("31.3.1985")}) {
+        next(entry);  // so the cell of the chart before stays
+        EXPECT_EQ(chart_.cellOf(ZiWei), both.cellOf(ZiWei));
+    }
+}
+
+TEST_F(Chains, ADateWithoutALunarMonthCountsFromTheChartBefore) {
+    next(birth("9.7.1975", 0, 30));
+    EXPECT_EQ(chart_.cellOf(Star::ZuoFu), CellIndex{1});
+    for (const ChartCell& each : chart_.cells) EXPECT_FALSE(each.lblJieShen || each.lblTianYue);
+    next(birth("24.12.2003"));
+    next(birth("8.7.1975", 0, 0));  // midnight moves it into the gap
+    EXPECT_EQ(chart_.lunarMonth, 12);
+    next(birth("9.7.1975", 0, 0));  // and this one out of it
+    EXPECT_EQ(chart_.lunarMonth, 6);
+}
+
+TEST_F(Chains, MidnightTurnsTheMonthWhereItEnds) {
+    constexpr std::pair<const char*, const char*> turns[]{
+        {"28.2.1987", "1.3.1987"},  {"29.2.2000", "1.3.2000"},    {"30.4.1985", "1.5.1985"},
+        {"31.12.1998", "1.1.1999"}, {"30.12.1999", "31.12.1999"}, {"31.12.2011", "1.1.2012"}};
+    for (const auto& [from, to] : turns) {
+        EXPECT_EQ(generateChart(birth(from, 0, 0), chart_), dateOf(to)) << from;
+        EXPECT_EQ(chart_.yearDigit, dateOf(to).year() % 10);
+        EXPECT_EQ(generateChart(birth(from, 0, 1), chart_), dateOf(from));
+    }
+    for (const char* last : {"31.12.1999", "31.12.2012"})
+        EXPECT_EQ(generateChart(birth(last, 0, 0), chart_), std::nullopt);
+}
+
+}  // namespace
