@@ -53,6 +53,15 @@ def ask_what_it_is(program):
     about.press_ok()
 
 
+def start_beside(program):
+    """A second start, which says that the program runs, and ends"""
+    with Program(program.process.args[0], environment={"XDG_RUNTIME_DIR": str(program.home)}) as second:
+        message = second.message()
+        message.find("label", "Application is already running")
+        message.press_ok()
+        second.wait_end()
+
+
 def be_refused(program):
     """A message, which is announced, and the focus after it"""
     window = program.window()
@@ -121,4 +130,5 @@ def go_back_and_leave(program):
 
 if __name__ == "__main__":
     with Program(*sys.argv[1:]) as session:
-        play([ask_what_it_is, be_refused, fill_in, read_chart, open_palace, save_all, go_back_and_leave], session)
+        play([ask_what_it_is, start_beside, be_refused, fill_in, read_chart, open_palace, save_all,
+              go_back_and_leave], session)

@@ -30,9 +30,9 @@ bool PressFilter::eventFilter(QObject* watched, QEvent* event) {
 bool PressFilter::isHeldDown(const QKeyEvent& key) const {
     constexpr qint64 atOnce = 25;  // milliseconds; no hand is as quick
     const int code = key.key();
-    const bool presses = code == Qt::Key_Return || code == Qt::Key_Enter || code == Qt::Key_Space;
-    const bool goesOn = code == releasedKey_ && sinceRelease_.elapsed() < atOnce;
-    return presses && (key.isAutoRepeat() || goesOn);
+    const bool enter = code == Qt::Key_Return || code == Qt::Key_Enter;
+    const bool goesOn = enter && code == releasedKey_ && sinceRelease_.elapsed() < atOnce;
+    return goesOn || (key.isAutoRepeat() && (enter || code == Qt::Key_Space));
 }
 
 bool PressFilter::isSecondHalf(const QMouseEvent& click, QObject* window) {

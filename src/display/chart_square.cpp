@@ -24,8 +24,7 @@ void ChartSquare::paintEvent(QPaintEvent*) {
     pen.setCosmetic(true);
     pen.setJoinStyle(Qt::MiterJoin);
     painter.setPen(pen);
-    const QPointF halfLine = QPointF{0.5, 0.5} * dots / devicePixelRatioF();
-    painter.translate(halfLine);
+    painter.translate(QPointF{0.5, 0.5} * dots / devicePixelRatioF());  // half a line
     for (const CellIndex cell : allCells) painter.drawRect(scale_.cellFrame(cell).adjusted(0, 0, -1, -1));
     pen.setColor(look::brown);
     painter.setPen(pen);

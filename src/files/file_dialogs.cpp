@@ -29,8 +29,8 @@ class FileDialog : public QFileDialog {
     }
 
   protected:
-    // The name as it will be used, from the name as it was typed, which no file or folder has.
-    virtual QString completed(const QString& path) const { return path; }
+    // The name as it will be used, from the name as it was typed, which no folder has.
+    virtual QString completed(const QString& path) const = 0;
 
     // Why the file can't be used, or nothing where it can.
     virtual QString obstacle(const QFileInfo& file) const = 0;
@@ -45,7 +45,7 @@ class FileDialog : public QFileDialog {
         const bool quoted = box->text().contains(QLatin1Char('"'));
         const QString typed = quoted ? directory().absoluteFilePath(box->text()) : selectedFiles().value(0);
         if (QFileInfo{typed}.isDir()) return QFileDialog::accept();  // goes there
-        path_ = QFileInfo::exists(typed) ? typed : completed(typed);
+        path_ = completed(typed);
         const QFileInfo file{path_};
         const QString told = obstacle(file);
         if (!told.isEmpty()) return showMessage(this, QMessageBox::Critical, told);
@@ -80,7 +80,9 @@ class OpenDialog : public FileDialog {
     }
 
   protected:
-    QString completed(const QString& path) const override { return path + QStringLiteral(".plf"); }
+    QString completed(const QString& path) const override {
+        return QFileInfo::exists(path) ? path : path + QStringLiteral(".plf");
+    }
     QString obstacle(const QFileInfo& file) const override {
         return file.exists() ? QString{} : tr("There is no such file.");
     }

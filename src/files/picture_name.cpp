@@ -44,7 +44,7 @@ std::string shortened(std::string_view name, std::size_t excess) {
 
 std::string counted(std::string_view name, int counter) {
     const std::string mark = "_" + std::to_string(1000 + counter).substr(1) + ".";
-    const std::string whole = replaced(name, ".", mark);
+    std::string whole = replaced(name, ".", mark);
     if (whole.size() <= longestName) return whole;
     return replaced(shortened(name, whole.size() - longestName), ".", mark);
 }

@@ -1,8 +1,6 @@
 // Small helpers for the controls of all forms: their names, their texts, and when they may act.
 #pragma once
 
-#include <QAction>
-#include <QMenu>
 #include <QMenuBar>
 #include <QPushButton>
 #include <functional>

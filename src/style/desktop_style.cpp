@@ -7,10 +7,11 @@
 int DesktopStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                             QStyleHintReturn* more) const {
     switch (hint) {
+        // Lists drop down below their box and scroll: 43 years may be more than a screen holds.
         case SH_ComboBox_Popup:
-            return 0;  // lists drop down below their box and scroll; 43 years may be more than a screen holds
+        // QMenuBar of Qt 6.4 keeps the keyboard unseen after Escape, or after Alt alone.
         case SH_MenuBar_AltKeyNavigation:
-            return 0;  // QMenuBar of Qt 6.4 keeps the keyboard unseen after Escape, or after Alt alone
+            return 0;
         default:
             return QProxyStyle::styleHint(hint, option, widget, more);
     }
