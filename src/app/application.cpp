@@ -39,7 +39,7 @@ void Application::showChart(const BirthEntry& entry) {
     auto* display = new frmDisplay{chart_, entry};
     frame_ = std::make_unique<frmMdi>(display, [display](QSize room) { return display->fitInto(room); });
     connectChart(display);
-    frame_->showOn(input_->screen());
+    frame_->showInPlaceOf(*input_);
     input_->hide();
 }
 

@@ -44,10 +44,7 @@ frmMdi::frmMdi(QWidget* chart, std::function<QSize(QSize)> fit) : fit_(std::move
     MDIForm_Load();
 }
 
-void frmMdi::MDIForm_Load() {
-    placeStrip();
-    placeChart();
-}
+void frmMdi::MDIForm_Load() { placeStrip(); }
 
 void frmMdi::createStrip() {
     Picture2 = named(new QWidget, "Picture2");
@@ -86,12 +83,13 @@ void frmMdi::hostChart(QWidget* chart) {
     QMetaObject::invokeMethod(cmdShowAll, qOverload<>(&QWidget::setFocus), Qt::QueuedConnection);
 }
 
-// As large as the screen to begin with, so that the chart is laid out once, and fills the screen where no
-// window manager maximises.
-void frmMdi::showOn(QScreen* screen) {
-    setMinimumSize(leastSize.boundedTo(screen->availableSize() - QSize{16, 40}));
-    setScreen(screen);
-    setGeometry(screen->availableGeometry());
+// As large to begin with as it will be with the border that the form has, so that the chart is painted once;
+// and it fills the screen where no window manager maximises.
+void frmMdi::showInPlaceOf(const QWidget& form) {
+    const QRect room = form.screen()->availableGeometry();
+    setMinimumSize(leastSize.boundedTo(room.size() - QSize{16, 40}));
+    setScreen(form.screen());
+    setGeometry({room.topLeft(), room.size() - (form.frameSize() - form.size())});
     showMaximized();
 }
 
@@ -160,8 +158,10 @@ void frmMdi::placeChart() {
     chartWindow_->move(centredOnScreen(size.width()), std::max(0, (room.height() - size.height()) / 2));
 }
 
+// The chart is placed when its area first gets a size, and not before.
 void frmMdi::moveEvent(QMoveEvent* event) {
     QMainWindow::moveEvent(event);
+    if (!isVisible()) return;
     placeStrip();
     placeChart();
 }

@@ -16,8 +16,8 @@ class frmMdi : public QMainWindow {
     // takes.
     frmMdi(QWidget* chart, std::function<QSize(QSize)> fit);
 
-    // Shows the frame maximised on that screen.
-    void showOn(QScreen* screen);
+    // Shows the frame maximised on the form's screen.
+    void showInPlaceOf(const QWidget& form);
 
     // Puts the focus on the strip's first control, or on its last.
     void focusStrip(bool first);

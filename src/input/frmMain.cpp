@@ -280,11 +280,11 @@ bool frmMain::eventFilter(QObject* watched, QEvent* event) {
 // Escape in the first window of the program would lose what was entered: it does nothing.
 void frmMain::reject() {}
 
-// Anew each time: the screen may have changed while the form was hidden.
-void frmMain::showEvent(QShowEvent* event) {
-    if (!event->spontaneous()) fitToScreen();
+// Fitted anew each time: the screen may have changed while the form was hidden.
+void frmMain::setVisible(bool visible) {
+    if (visible) fitToScreen();
+    QDialog::setVisible(visible);
     setAttribute(Qt::WA_KeyboardFocusChange);  // else some styles show the focus only after a key
-    QDialog::showEvent(event);
 }
 
 // As large as its content and in the middle of the screen. Where the screen is smaller, the form scrolls.

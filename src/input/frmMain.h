@@ -18,6 +18,8 @@ class frmMain : public QDialog {
     // Opens on 1 January 1970, 0:00, with an empty name.
     frmMain();
 
+    void setVisible(bool visible) override;
+
     // Fills the name and the date lists from a chart file and returns whether it could be read; a value that
     // is no entry leaves its list as it was. Says so where the name or the file is not that of a chart file;
     // the form then stays as it is.
@@ -50,7 +52,6 @@ class frmMain : public QDialog {
     void dropEvent(QDropEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
     void reject() override;
-    void showEvent(QShowEvent* event) override;
 
   private:
     void Form_Load();

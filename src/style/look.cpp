@@ -87,7 +87,7 @@ QString productName() { return QStringLiteral("Palace Lantern"); }
 
 QIcon productIcon() {
     QIcon icon;
-    for (const int size : {16, 32, 48}) {
+    for (const int size : {16, 48}) {
         icon.addFile(QStringLiteral(":/icons/palace-lantern-%1.png").arg(size), QSize{size, size});
     }
     return icon;
