@@ -218,13 +218,13 @@ class Program(Control):
 
 
 def take_picture(path, *what):
-    """Waits until two pictures in a row are the same, so that everything is painted, and keeps the last."""
+    """Waits until a picture comes again, so that everything is painted (in a row it may not, as cursors blink)."""
     shots = []
 
     def still():
         time.sleep(0.15)
         shots.append(run("import", *what, "ppm:-"))
-        return shots[-2:].count(shots[-1]) == 2
+        return shots.count(shots[-1]) == 2
 
     wait_until(still, "the screen to stand still")
     path.parent.mkdir(parents=True, exist_ok=True)
