@@ -111,7 +111,7 @@ const std::array<std::array<std::string_view, palaceTextCount>, starTextCount> s
     }},
     {{
         // Tai Yin
-        "You are shy and emotional and your mood is never fixed. You like to remain at home with your family and keep the house clean.",
+        "You are shy and emotional and your mood changes very soon. You like to remain at home with your family and keep the house clean.",
         "You have more sisters than brothers and your relationship with them is close. One of them may help you in money matters.",
         "The Moon in this palace gives you a beautiful and gentle spouse. Men gain wealth through their wives. In case of women, the husband is a bit too emotional.",
         "Children are gentle and artistic and very much attached to you. There may be more daughters. You want love more than anything else in your sexual life.",
