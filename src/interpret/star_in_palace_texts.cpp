@@ -36,7 +36,7 @@ const std::array<std::array<std::string_view, palaceTextCount>, starTextCount> s
     }},
     {{
         // Tai Yang
-        "You are open hearted and frank. You give money very easily as you can not say no to anybody. People like to be near you.",
+        "With the blessings of the Sun you are open hearted and frank by temperament. You can not say no to anybody in money matters. People have a soft corner for you.",
         "Brothers and sisters are warm hearted and of good position, and you get help from them in money matters and also in your career.",
         "The Sun in this palace promises a respected and successful husband to women. Men will get a dominating wife from a well known family. Too much of public work is not good for your marital life.",
         "Tai Yang in the children palace denotes that your children will be active and successful, and mostly sons are indicated.",
@@ -91,7 +91,7 @@ const std::array<std::array<std::string_view, palaceTextCount>, starTextCount> s
         "You will have a wide circle of friends and contacts, but due to jealousy some of them may turn into enemies and talk ill of you.",
         "Government service is the best for you. You will rise to a high position due to your contacts. Some hidden enemies are also there in your work place and you should be careful about them.",
         "Inherited property may be disputed among the relatives. Beware of a secret affair under your own roof, for it will not remain secret.",
-        "You are too conscious of your reputation and lose sleep over criticism.",
+        "You are very particular about your image and can not digest criticism.",
         "Lian Zhen in the parents' palace indicates that your parents are ambitious and have a good position in society. They are never fully satisfied with you and there may be differences because of it.",
     }},
     {{
@@ -116,7 +116,7 @@ const std::array<std::array<std::string_view, palaceTextCount>, starTextCount> s
         "The Moon in this palace gives you a beautiful and gentle spouse. Men gain wealth through their wives. In case of women, the husband is a bit too emotional.",
         "Children are gentle and artistic and very much attached to you. There may be more daughters. You want love more than anything else in your sexual life.",
         "With the Moon in the money palace wealth comes to you slowly, and those of you who are born in the day may have to face ups and downs in their income.",
-        "Emotional problems may lead to lack of sleep and weakness of your eyes.",
+        "Eyes are on the weaker side and you do not get sound sleep due to emotional problems.",
         "You feel homesick in other places. Traveling by water is lucky.",
         "Tai Yin in the friends palace signifies that you get help from women.",
         "Tai Yin in the career palace is good for all kind of work related to beauty and art, and women in high positions will be helpful to you. Too much of competition is not suitable for your health.",
