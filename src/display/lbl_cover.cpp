@@ -62,7 +62,9 @@ void LblCover::keyPressEvent(QKeyEvent* event) {
 void LblCover::paintEvent(QPaintEvent*) {
     if (!marked_) return;
     QPainter painter{this};
-    if (underMouse()) painter.fillRect(rect().adjusted(1, 1, -1, -1), QColor{13, 36, 166, 14});
+    QColor tint = look::blue;
+    tint.setAlpha(14);
+    if (underMouse()) painter.fillRect(rect().adjusted(1, 1, -1, -1), tint);
     if (!hasFocus()) return;
     painter.setPen(look::blue);
     painter.drawRect(rect().adjusted(0, 0, -1, -1));

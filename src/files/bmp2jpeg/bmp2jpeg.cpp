@@ -3,10 +3,11 @@
 #include <turbojpeg.h>
 
 #include <QFile>
-#include <QSaveFile>
 #include <algorithm>
 #include <memory>
 #include <type_traits>
+
+#include "files/saved_files.h"
 
 namespace {
 
@@ -16,15 +17,6 @@ struct Destroy {
 };
 using Compressor = std::unique_ptr<std::remove_pointer_t<tjhandle>, Destroy>;
 using Bytes = std::unique_ptr<unsigned char, Destroy>;
-
-bool write(const char* path, const Bytes& bytes, unsigned long size) {
-    QSaveFile file{QFile::decodeName(path)};
-    file.setDirectWriteFallback(true);
-    const auto* data = reinterpret_cast<const char*>(bytes.get());
-    const auto count = static_cast<qint64>(size);
-    return file.open(QIODevice::WriteOnly) && file.write(data, count) == count && file.flush() &&
-           file.commit();
-}
 
 }  // namespace
 
@@ -40,5 +32,6 @@ int BmpToJpeg(const char* bmpPath, const char* jpegPath, int quality) noexcept {
     const int failed = tjCompress2(compressor.get(), pixels.get(), width, 0, height, format, &bytes, &size,
                                    TJSAMP_444, std::clamp(quality, 1, 100), TJFLAG_ACCURATEDCT);
     const Bytes jpeg{bytes};
-    return failed == 0 && write(jpegPath, jpeg, size) ? 1 : 0;
+    const std::string_view written{reinterpret_cast<const char*>(jpeg.get()), size};
+    return failed == 0 && writeFile(QFile::decodeName(jpegPath), written) ? 1 : 0;
 }
