@@ -1,11 +1,13 @@
-// A folder of a test's own, gone with all that is in it at the end.
+// A folder of a test's own, gone with all that is in it at the end. Its name has a dot, as a person's may.
 #pragma once
 
 #include <gtest/gtest.h>
 #include <stdlib.h>
+#include <unistd.h>
 
 #include <filesystem>
 #include <fstream>
+#include <functional>
 #include <iterator>
 #include <set>
 #include <string>
@@ -30,5 +32,18 @@ class TemporaryFolder : public testing::Test {
         return found;
     }
 
-    std::string folder_ = testing::TempDir() + "palace-lantern-XXXXXX";
+    // Runs the action, before which the folder was closed to new files, without the rights that root has to
+    // everything.
+    void inClosedFolder(const std::function<void()>& action) const {
+        using std::filesystem::perms, std::filesystem::permissions;
+        const uid_t own = ::getuid(), other = own == 0 ? 65534 : own;
+        EXPECT_EQ(::chown(folder_.c_str(), other, static_cast<gid_t>(-1)), 0);
+        permissions(folder_, perms::owner_read | perms::owner_exec);
+        EXPECT_EQ(::setresuid(other, other, own), 0);
+        action();
+        EXPECT_EQ(::setresuid(own, own, own), 0);
+        permissions(folder_, perms::owner_all);
+    }
+
+    std::string folder_ = testing::TempDir() + "palace.lantern-XXXXXX";
 };

@@ -56,6 +56,8 @@ class Analysis : public Program {
             for (const auto* control : dialog.findChildren<QWidget*>(pageNumbers))
                 EXPECT_FALSE(control->isVisible()) << control->objectName().toStdString();
             dialog.findChild<QLineEdit*>("filename")->setText(QString::fromStdString(pdf_));
+            dialog.printer()->setPageMargins({6, 6, 6, 6},
+                                             QPageLayout::Millimeter);  // as printers bring along
             dialog.accept();
         };
         EXPECT_EQ(withModals([] { click("cmdPrint"); }, accept), 1);
@@ -73,15 +75,30 @@ class Analysis : public Program {
     const std::string pdf_ = folder_ + "/paper.pdf";
 };
 
+// Sends an event to a window at a time of the display's clock, in milliseconds.
+template <class Event>
+void sendAt(quint64 time, QWidget& window, Event event) {
+    event.setTimestamp(time);
+    QApplication::sendEvent(window.windowHandle(), &event);
+}
+
+void pressEnterAt(quint64 time, QWidget& window) {
+    sendAt(time, window, QKeyEvent{QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, "\r"});
+}
+
 TEST_F(Analysis, OfAPalaceIsOpenedOnceByAKeyThatIsHeldDownAndReadUntilTheNextPress) {
     const auto hold = [](QWidget& window) {
         QKeyEvent repeat{QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, "\r", true};
-        for (int count = 0; count < 3; ++count) QApplication::sendEvent(window.windowHandle(), &repeat);
+        QApplication::sendEvent(window.windowHandle(), &repeat);
+        for (const quint64 time : {5000U, 5030U}) {  // as the X server reports it
+            sendAt(time, window, QKeyEvent{QEvent::KeyRelease, Qt::Key_Return, Qt::NoModifier, "\r"});
+            pressEnterAt(time + 1, window);
+        }
         EXPECT_TRUE(window.isVisible());
     };
     const auto pressAndHold = [&] {
         find("lblCover(7)")->setFocus();
-        QTest::keyClick(find("frmMdi")->windowHandle(), Qt::Key_Return);
+        pressEnterAt(1000, *find("frmMdi"));
         hold(*find("frmMdi"));
     };
     const auto holdAndRead = [&](QWidget& analysis) {
@@ -90,35 +107,71 @@ TEST_F(Analysis, OfAPalaceIsOpenedOnceByAKeyThatIsHeldDownAndReadUntilTheNextPre
         expectRuns(*text, composePalaceAnalysis(chart_, 7));
         EXPECT_TRUE(text->isReadOnly());
         for (const Qt::Key key : {Qt::Key_S, Qt::Key_P}) QTest::keyClick(text, key, Qt::ControlModifier);
-        QTest::keyClick(&analysis, Qt::Key_Return);
+        pressEnterAt(5200, analysis);  // late, but soon delivered
+        EXPECT_FALSE(analysis.isVisible());
+        analysis.close();
     };
     EXPECT_EQ(withModals(pressAndHold, holdAndRead), 1);
+}
+
+TEST_F(Analysis, OfAPalaceIsNotClosedByTheSecondHalfOfADoubleClick) {
+    const auto clickAt = [](quint64 time, QWidget& control, const QPoint& place) {
+        const QPoint inWindow = control.mapTo(control.window(), place);
+        for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
+            const Qt::MouseButtons held = type == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton;
+            sendAt(time, *control.window(),
+                   QMouseEvent{type, inWindow, QPointF{600, 400}, Qt::LeftButton, held, Qt::NoModifier});
+        }
+    };
+    const auto clickOkTwice = [&](QWidget& analysis) {
+        clickAt(1100, *find("cmdOk"), {9, 9});
+        EXPECT_TRUE(analysis.isVisible());
+        clickAt(3000, *find("cmdOk"), {9, 9});
+    };
+    EXPECT_EQ(withModals([&] { clickAt(1000, *find("lblCover(7)"), {9, 9}); }, clickOkTwice), 1);
+    const auto chooseQuickly = [&] {
+        auto* menus = find("frmDisplay")->findChild<QMenuBar*>();
+        clickAt(5000, *menus, menus->actionGeometry(menus->actions().first()).center());
+        clickAt(5100, *find<QMenu>("mnuFile"), {9, 9});  // a menu goes on with its title
+    };
+    EXPECT_EQ(withModals(chooseQuickly, [](QWidget& analysis) { analysis.close(); }), 1);
 }
 
 TEST_F(Analysis, OfAllPalacesIsSavedAndAsksBeforeItOverwrites) {
     const std::string bytes = chartFileBytes(chart_.input), own = folder_ + "/chart.txt";
     const QString question = "Palace Lantern|question|%1 already exists.\nDo you want to replace it?";
     const auto saveAll = [&](QTextEdit& text) {
-        const auto save = [&](const std::string& path, QMessageBox::StandardButton answer = QMessageBox::No) {
+        const auto save = [&](const std::vector<std::string>& typed, bool yes = false) {
             text.activateWindow();
             EXPECT_TRUE(QTest::qWaitFor([&] { return text.isActiveWindow(); }));
             const auto press = [&] { QTest::keyClick(&text, Qt::Key_S, Qt::ControlModifier); };
-            return messagesOf(press, path, answer);
+            return messagesOf(press, typed, yes);
         };
-        EXPECT_EQ(save(folder_ + "/chart"), QStringList{});
+        EXPECT_EQ(save({folder_ + "/chart"}), QStringList{});
         EXPECT_EQ(read(own), bytes);
         write(own, "old");
-        EXPECT_EQ(save(folder_ + "/chart"), (QStringList{question.arg("chart.txt"), "stays"}));
+        EXPECT_EQ(save({folder_ + "/chart"}), (QStringList{question.arg("chart.txt"), "stays"}));
         EXPECT_EQ(read(own), "old");
-        EXPECT_EQ(save(folder_ + "/chart", QMessageBox::Yes), QStringList{question.arg("chart.txt")});
+        EXPECT_EQ(save({folder_ + "/chart"}, true), QStringList{question.arg("chart.txt")});
         EXPECT_EQ(read(own), bytes);
         for (const char* name : {"/say \"hi\" now.plf", "/<h1>BIG.plf"})
-            EXPECT_EQ(save(folder_ + name), QStringList{});
-        EXPECT_EQ(save(folder_ + "/<h1>BIG.plf"), (QStringList{question.arg("<h1>BIG.plf"), "stays"}));
-        EXPECT_EQ(names(), (Names{"chart.txt", "say \"hi\" now.plf", "<h1>BIG.plf"}));
-        for (const auto& [path, why] : {std::pair{std::string{"/none/chart"}, "The folder does not exist."},
-                                        {folder_ + "/" + std::string(256, 'n'), "The name is too long."}})
-            EXPECT_EQ(save(path), (QStringList{QString("Palace Lantern|critical|") + why, "stays"}));
+            EXPECT_EQ(save({folder_ + name}), QStringList{});
+        EXPECT_EQ(save({folder_ + "/<h1>BIG.plf"}), (QStringList{question.arg("<h1>BIG.plf"), "stays"}));
+        std::filesystem::create_directories(folder_ + "/sub/name.txt");
+        EXPECT_EQ(save({folder_ + "/sub", "in sub"}), QStringList{});
+        EXPECT_EQ(read(folder_ + "/sub/in sub.txt"), bytes);
+        EXPECT_EQ(names(), (Names{"chart.txt", "say \"hi\" now.plf", "sub", "<h1>BIG.plf"}));
+        const auto expectRefusal = [&](const std::string& path, const char* why) {
+            EXPECT_EQ(save({path}), (QStringList{QString("Palace Lantern|critical|") + why, "stays"}));
+        };
+        expectRefusal("/none/chart", "The folder does not exist.");
+        expectRefusal(folder_ + "/sub/name", "This is the name of a folder.");
+        expectRefusal(folder_ + "/" + std::string(256, 'n'), "The name is too long.");
+        std::filesystem::permissions(own, std::filesystem::perms::owner_read);
+        inClosedFolder([&] {
+            expectRefusal(own, "This file is read-only.");
+            expectRefusal(folder_ + "/new", "Nothing can be saved in this folder.");
+        });
     };
     open(saveAll);
 }
@@ -135,6 +188,19 @@ TEST_F(Analysis, IsReadInAnySizeAndPrintedInItsOwnAsFarAsItIsSelected) {
         print();
         before = paper("-bbox");
         const double own = size();
+        const auto top = [&] { return text.cursorForPosition({0, 2}).blockNumber(); };
+        EXPECT_EQ(text.textCursor().position() + top(), 0) << "read from its top";
+        text.setTextCursor(text.document()->find("life after 50 years of age."));
+        const int anchor = text.textCursor().anchor(), position = text.textCursor().position();
+        text.verticalScrollBar()->setValue(text.verticalScrollBar()->maximum() * 2 / 3);
+        const int topBefore = top();
+        press(Qt::Key_Equal);
+        EXPECT_DOUBLE_EQ(size(), own * 1.1);
+        EXPECT_EQ(top(), topBefore);
+        EXPECT_EQ(text.textCursor().anchor(), anchor);
+        EXPECT_EQ(text.textCursor().position(), position);
+        turn(3, -40, Qt::ControlModifier);  // as touchpads do
+        EXPECT_DOUBLE_EQ(size(), own);
         press(Qt::Key_Minus);
         EXPECT_DOUBLE_EQ(size(), own * 0.9);
         turn(3, -120, Qt::ControlModifier);
@@ -145,9 +211,11 @@ TEST_F(Analysis, IsReadInAnySizeAndPrintedInItsOwnAsFarAsItIsSelected) {
         press(Qt::Key_0);
         EXPECT_DOUBLE_EQ(size(), own);
         for (int step = 0; step < 12; ++step) press(Qt::Key_Plus);
+        text.window()->resize(510, 440);
     };
     open(changeSize);
     const auto printAgain = [&](QTextEdit& text) {
+        EXPECT_EQ(text.window()->size(), QSize(510, 440)) << "as a person left it";
         expectRuns(text, composeAllPalaces(chart_), 3);
         print();
         EXPECT_TRUE(paper("-bbox") == before) << "also the paper is larger";

@@ -33,6 +33,9 @@ TEST_F(SavedFile, LeavesWhatWasThereWhereverTheDiskIsFull) {
         EXPECT_EQ(read(path), saved ? bytes : "old") << room;
         EXPECT_EQ(names(), Names{"chart.plf"}) << room;
     }
+    std::filesystem::permissions(path, std::filesystem::perms::all);
+    inClosedFolder([&] { EXPECT_TRUE(writeFile(QString::fromStdString(path), "new")) << "in its place"; });
+    EXPECT_EQ(read(path), "new");
 }
 
 // How near the picture in the file comes to the other, as far as that goes: the peak signal-to-noise ratio in
@@ -83,26 +86,40 @@ class Picture : public Program {
     Picture() { showChart(); }
 
     QStringList save(const std::string& name) const {
-        return messagesOf([] { click("cmdSavePicture"); }, folder_ + "/" + name);
+        return messagesOf([] { choose("frmDisplay", "mnuSavejpg"); }, {folder_ + "/" + name});
     }
 };
 
 TEST_F(Picture, ShowsTheChartAsOnTheScreenWithoutFocusAndPointer) {
     auto* client = find("frmDisplay")->findChild<QScrollArea*>();
     QTest::mouseMove(find("frmMdi"), {2, 2});
-    QTest::qWait(200);  // until all is painted
-    const QImage screen = client->grab().toImage();
+    const auto shown = [client] {
+        QTest::qWait(200);  // until all is painted
+        return client->grab().toImage();
+    };
+    const QImage plain = shown();
     find("lblCover(4)")->setFocus();
+    const QImage focused = shown();
+    EXPECT_NE(focused, plain);
     QTest::mouseMove(find("lblCover(4)"));
-    QTest::qWait(50);
+    EXPECT_NE(shown(), focused);
     EXPECT_EQ(save("chart"), QStringList{});
-    const QSize withoutHint = screen.size() - QSize{0, 40};  // which tells of the pointer, as it should
-    EXPECT_GE(likeness(folder_ + "/chart.jpg", screen.copy({{}, withoutHint})), 45);
+    const QSize withoutHint = plain.size() - QSize{0, 40};  // which tells of the pointer, as it should
+    EXPECT_GE(likeness(folder_ + "/chart.jpg", plain.copy({{}, withoutHint})), 45);
+    QTest::mouseMove(find("frmMdi"), {2, 2});
+    EXPECT_EQ(shown(), focused);
     find("frmMdi")->showNormal();
-    find("frmMdi")->resize(500, 400);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return client->widget()->height() > client->height(); }));
-    EXPECT_EQ(save("scrolled"), QStringList{});
-    EXPECT_EQ(QImage{QString::fromStdString(folder_ + "/scrolled.jpg")}.size(), client->widget()->size());
+    for (const QSize& size : {QSize{500, 700}, QSize{900, 400}}) {
+        find("frmMdi")->resize(size);
+        const QSize whole = client->widget()->size();
+        EXPECT_TRUE(QTest::qWaitFor(
+            [&] { return (whole.height() > client->height()) != (whole.width() > client->width()); }));
+        EXPECT_EQ(save("scrolled" + std::to_string(size.width())), QStringList{});
+        EXPECT_EQ(
+            QImage(QString::fromStdString(folder_ + "/scrolled" + std::to_string(size.width()) + ".jpg"))
+                .size(),
+            whole);
+    }
 }
 
 TEST_F(Picture, OverwritesNothingAndLeavesNothingBeside) {

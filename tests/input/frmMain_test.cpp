@@ -1,7 +1,5 @@
 // The input form: what goes into it, what it refuses, and what it hands over.
 
-#include "input/frmMain.h"
-
 #include "files/chart_file.h"
 #include "form_driver.h"
 
@@ -10,31 +8,28 @@ namespace {
 const QStringList onlyLetters{"Palace Lantern|information|Please Enter Only Letters"};
 const QString old = "OLD 1 January 2001 13 30";
 
-class InputForm : public TemporaryFolder {
+class InputForm : public Program {
   protected:
-    InputForm() {
-        form_.show();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(&form_));
-    }
-
     QString press(Qt::Key key, Qt::KeyboardModifiers held = Qt::NoModifier) {
         QTest::keyClick(name_, key, held);
         return name_->text();
     }
 
-    // Drags to the name box and drops what the pointer tells that it may drop there.
-    void drop(const QMimeData& dragged) {
-        QDragEnterEvent enter{{5, 5}, Qt::CopyAction, &dragged, Qt::LeftButton, Qt::NoModifier};
+    // Drags to the name box, drops what the pointer tells that it may drop there, and returns whether it may.
+    // With Shift, as if the file were to be moved away.
+    bool drop(const QMimeData& dragged) {
+        const Qt::DropActions offered = Qt::CopyAction | Qt::MoveAction;
+        QDragEnterEvent enter{{5, 5}, offered, &dragged, Qt::LeftButton, Qt::ShiftModifier};
         QApplication::sendEvent(name_, &enter);
-        if (!enter.isAccepted()) return;
-        QDropEvent drop{{5, 5}, Qt::CopyAction, &dragged, Qt::LeftButton, Qt::NoModifier};
-        QApplication::sendEvent(dragged.hasUrls() ? static_cast<QWidget*>(&form_) : name_, &drop);
-        QCoreApplication::processEvents();
+        if (!enter.isAccepted()) return false;
+        QDropEvent drop{{5, 5}, offered, &dragged, Qt::LeftButton, Qt::ShiftModifier};
+        QApplication::sendEvent(dragged.hasUrls() ? form_ : name_, &drop);
+        EXPECT_EQ(drop.dropAction(), dragged.hasUrls() ? Qt::CopyAction : Qt::MoveAction);
+        return true;
     }
 
-    frmMain form_;
-    QLineEdit* name_ = form_.findChild<QLineEdit*>("txtName");
-    QSignalSpy handedOver_{&form_, &frmMain::entered};
+    QWidget* form_ = find("frmMain");
+    QLineEdit* name_ = find<QLineEdit>("txtName");
 };
 
 TEST_F(InputForm, OpensOnTheFirstEntriesAndTurnsOnlyTheListInFocus) {
@@ -46,11 +41,18 @@ TEST_F(InputForm, OpensOnTheFirstEntriesAndTurnsOnlyTheListInFocus) {
     EXPECT_EQ(entries, " 1 January 1970 0 0 ..31 ..December ..2012 ..23 ..59");
     auto* year = find<QComboBox>("cmbYear");
     for (const int expected : {0, 1}) {
-        QWheelEvent wheel{{5, 5}, {5, 5}, {}, {0, -120}, Qt::NoButton, {}, Qt::NoScrollPhase, false};
-        QApplication::sendEvent(year, &wheel);
+        const QPointF place = year->mapTo(form_, QPoint{5, 5});
+        QWheelEvent wheel{place, form_->mapToGlobal(place), {},   {0, -120}, Qt::NoButton,
+                          {},    Qt::NoScrollPhase,         false};
+        QSpontaneKeyEvent::setSpontaneous(&wheel);  // as if it came from the screen
+        qApp->notify(form_->windowHandle(), &wheel);
         EXPECT_EQ(year->currentIndex(), expected);
         year->setFocus();
     }
+    form_->resize(1300, 600);
+    const auto* details = form_->findChild<QGroupBox*>();
+    EXPECT_LT(details->width(), 900) << "where a desktop makes the form as wide as the screen";
+    EXPECT_NEAR(details->mapTo(form_, details->rect().center()).x(), 650, 10);
 }
 
 TEST_F(InputForm, LetsOnlyLettersAndBlanksIn) {
@@ -89,7 +91,7 @@ TEST_F(InputForm, LetsOnlyLettersAndBlanksIn) {
 }
 
 TEST_F(InputForm, KeepsTheFocusInTheNameBoxAfterMenusAndMessages) {
-    QWindow* keyboard = form_.windowHandle();
+    QWindow* keyboard = form_->windowHandle();
     QTest::keyClick(keyboard, Qt::Key_Alt);
     QTest::keyClick(keyboard, Qt::Key_A);
     QTest::keyClick(keyboard, Qt::Key_F, Qt::AltModifier);
@@ -127,25 +129,30 @@ TEST_F(InputForm, OpensChartFilesAndIsLeftAsItIsByOthers) {
     write(folder_ + "/chart.plf", bytes);
     write(folder_ + "/chart.txt", bytes);
     write(folder_ + "/chartplf", bytes.substr(0, bytes.size() - 6));  // without the year
+    write(folder_ + "/noname.plf", bytes.substr(bytes.find('\r')));
     std::filesystem::create_symlink("/proc/self/mem", folder_ + "/x.plf");
     const QString shown = "O'NEIL <b> 5 March 1985 13 30", shownWithoutYear = "O'NEIL <b> 5 March 2001 13 30";
     const QStringList quiet, bad{"Palace Lantern|critical|Please Check The File."};
     const QStringList missing{"Palace Lantern|critical|There is no such file.", "stays"};
-    const std::tuple<std::string, QStringList, QString> files[]{
-        {"", quiet, old},
-        {folder_ + "/chart.plf", quiet, shown},
-        {folder_ + "/chart", quiet, shown},
-        {folder_ + "/chartplf", quiet, shownWithoutYear},
-        {folder_ + "/chart.txt", bad, old},
-        {folder_ + "/x.plf", bad, old},
-        {folder_ + "/missing", missing, old},
+    const QStringList noName{"Palace Lantern|information|Please Enter Your Name !"};
+    const std::tuple<std::vector<std::string>, QStringList, QString> files[]{
+        {{}, quiet, old},
+        {{folder_ + "/chart.plf"}, quiet, shown},
+        {{folder_ + "/chart"}, quiet, shown},
+        {{folder_, "chartplf"}, quiet, shownWithoutYear},
+        {{folder_ + "/chart.txt"}, bad, old},
+        {{folder_ + "/x.plf"}, bad, old},
+        {{folder_ + "/missing"}, missing, old},
+        {{folder_ + "/noname.plf"}, noName, " 5 March 1985 13 30"},
     };
-    for (const auto& [path, messages, after] : files) {
+    for (const auto& [typed, messages, after] : files) {
         enter("OLD", "1.1.2001", 13, 30);
-        EXPECT_EQ(messagesOf([] { click("cmdOpen"); }, path), messages) << path;
-        EXPECT_EQ(entered(), after) << path;
+        EXPECT_EQ(messagesOf([] { click("cmdOpen"); }, typed), messages) << after.toStdString();
+        EXPECT_EQ(entered(), after);
+        EXPECT_EQ(form_->isHidden(), messages.isEmpty() && after != old) << after.toStdString();
+        if (form_->isHidden()) click("cmdBack");
     }
-    EXPECT_EQ(handedOver_.count(), 3);
+    EXPECT_EQ(messagesOf([this] { QTest::keyClick(name_, '1'); }), onlyLetters);
     const auto expectFilter = [](QWidget& window) {
         EXPECT_EQ(dynamic_cast<QFileDialog&>(window).nameFilters(), QStringList{"Palace Lantern (*.plf)"});
         window.close();
@@ -157,16 +164,59 @@ TEST_F(InputForm, TakesOneDroppedChartFileAndRefusesOtherFiles) {
     const QString path = QString::fromStdString(folder_ + "/chart.plf");
     write(folder_ + "/chart.plf", chartFileBytes({u"NEW", 1985, "March", 5}));
     const QUrl chart = QUrl::fromLocalFile(path), text = QUrl::fromLocalFile(path + ".txt");
-    enter("OLD", "1.1.2001", 13, 30);
-    for (const QList<QUrl>& urls : {QList{text}, {chart, chart}, {QUrl{"https://host/chart.plf"}}, {chart}}) {
-        EXPECT_EQ(entered(), old);
+    const auto dropAll = [this](const QList<QUrl>& urls) {
         QMimeData dragged;
         dragged.setUrls(urls);
         dragged.setText("x");  // as file managers do
-        drop(dragged);
-    }
+        return drop(dragged);
+    };
+    enter("", "1.1.2001", 13, 30);
+    const auto dropWithAMessage = [&] {
+        EXPECT_TRUE(dropAll({chart}));
+        click("cmdGenerateChart");
+    };
+    const auto dropBeforeAMessage = [&](QWidget& message) {
+        EXPECT_FALSE(dropAll({chart}));
+        message.close();
+    };
+    EXPECT_EQ(withModals(dropWithAMessage, dropBeforeAMessage), 1);
+    for (const QList<QUrl>& urls : {QList{text}, {chart, chart}, {QUrl{"https://host/chart.plf"}}})
+        EXPECT_FALSE(dropAll(urls));
+    EXPECT_EQ(entered(), " 1 January 2001 13 30");
+    EXPECT_TRUE(dropAll({chart}));
+    EXPECT_TRUE(QTest::qWaitFor([this] { return form_->isHidden(); }));
     EXPECT_EQ(entered(), "NEW 5 March 1985 13 30");
-    EXPECT_EQ(handedOver_.count(), 1);
+}
+
+// Two screens, which the toolkit makes in memory where it is told to; the second one is small.
+using TwoScreens = Program;
+
+TEST_F(TwoScreens, HoldEachWindowWhereThePersonIs) {
+    const QList<QScreen*> screens = QGuiApplication::screens();
+    if (screens.size() < 2) GTEST_SKIP() << "on one screen";
+    const auto isOn = [](const QScreen* screen, const QWidget& window) {
+        return window.screen() == screen && screen->availableGeometry().contains(window.frameGeometry());
+    };
+    for (const int to : {1, 0}) {
+        QWidget* form = find("frmMain");
+        form->move(screens[to]->geometry().center() - QPoint{100, 100});
+        form->hide();
+        form->show();
+        EXPECT_TRUE(isOn(screens[to], *form)) << to;
+        showChart();
+        QWidget* frame = find("frmMdi");
+        EXPECT_TRUE(isOn(screens[to], *frame)) << to;
+        frame->showNormal();
+        frame->move(screens[1 - to]->geometry().topLeft() + QPoint{20, 20});
+        const auto close = [&](QWidget& window) {
+            EXPECT_TRUE(isOn(screens[1 - to], window)) << to;
+            window.close();
+        };
+        EXPECT_EQ(withModals([] { click("cmdShowAll"); }, close), 1);
+        EXPECT_EQ(withModals([] { click("cmdSavePicture"); }, close), 1);
+        click("cmdBack");
+        EXPECT_TRUE(isOn(screens[1 - to], *form)) << to;
+    }
 }
 
 }  // namespace
