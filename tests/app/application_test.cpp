@@ -203,7 +203,7 @@ TEST_F(Program, OpensThePageOfEachEntryFromEachWindow) {
         QTest::qWait(300);
     };
     const QString told = messagesOf(openInVain).join("");
-    EXPECT_TRUE(told.startsWith("Palace Lantern|information|No browser could be opened."));
+    EXPECT_TRUE(told.startsWith("Palace Lantern Message|information|No browser could be opened."));
     EXPECT_TRUE(told.endsWith("/index.html"));
     qputenv("PATH", path);
 }

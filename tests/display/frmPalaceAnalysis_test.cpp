@@ -56,8 +56,7 @@ class Analysis : public Program {
             for (const auto* control : dialog.findChildren<QWidget*>(pageNumbers))
                 EXPECT_FALSE(control->isVisible()) << control->objectName().toStdString();
             dialog.findChild<QLineEdit*>("filename")->setText(QString::fromStdString(pdf_));
-            dialog.printer()->setPageMargins({6, 6, 6, 6},
-                                             QPageLayout::Millimeter);  // as printers bring along
+            dialog.printer()->setPageLayout(QPrinter{QPrinter::HighResolution}.pageLayout());  // as printers do
             dialog.accept();
         };
         EXPECT_EQ(withModals([] { click("cmdPrint"); }, accept), 1);
@@ -139,7 +138,7 @@ TEST_F(Analysis, OfAPalaceIsNotClosedByTheSecondHalfOfADoubleClick) {
 
 TEST_F(Analysis, OfAllPalacesIsSavedAndAsksBeforeItOverwrites) {
     const std::string bytes = chartFileBytes(chart_.input), own = folder_ + "/chart.txt";
-    const QString question = "Palace Lantern|question|%1 already exists.\nDo you want to replace it?";
+    const QString question = "Palace Lantern Message|question|%1 already exists.\nDo you want to replace it?";
     const auto saveAll = [&](QTextEdit& text) {
         const auto save = [&](const std::vector<std::string>& typed, bool yes = false) {
             text.activateWindow();
@@ -162,7 +161,7 @@ TEST_F(Analysis, OfAllPalacesIsSavedAndAsksBeforeItOverwrites) {
         EXPECT_EQ(read(folder_ + "/sub/in sub.txt"), bytes);
         EXPECT_EQ(names(), (Names{"chart.txt", "say \"hi\" now.plf", "sub", "<h1>BIG.plf"}));
         const auto expectRefusal = [&](const std::string& path, const char* why) {
-            EXPECT_EQ(save({path}), (QStringList{QString("Palace Lantern|critical|") + why, "stays"}));
+            EXPECT_EQ(save({path}), (QStringList{QString("Palace Lantern Message|critical|") + why, "stays"}));
         };
         expectRefusal("/none/chart", "The folder does not exist.");
         expectRefusal(folder_ + "/sub/name", "This is the name of a folder.");
