@@ -36,13 +36,16 @@ bool PressFilter::eventFilter(QObject* watched, QEvent* event) {
     }
 }
 
-// The X server reports auto-repeat as a release and a press at once, which Qt does not always recognize.
+// Qt 6.8 still: under X11, where auto-repeat comes as a release and a press at once, isAutoRepeat() is often
+// false.
 bool PressFilter::isRepeated(const QKeyEvent& key) const {
     constexpr quint64 atOnce = 2;  // milliseconds; no hand is as quick
     const int code = key.key();
-    if (code == Qt::Key_Return || code == Qt::Key_Enter)
-        return key.isAutoRepeat() || (code == releasedKey_ && key.timestamp() - released_ <= atOnce);
-    return code == Qt::Key_Space && key.isAutoRepeat() && !entersText(QApplication::focusWidget());
+    const bool enter = code == Qt::Key_Return || code == Qt::Key_Enter;
+    const bool space = code == Qt::Key_Space && !entersText(QApplication::focusWidget());
+    const bool repeated =
+        key.isAutoRepeat() || (code == releasedKey_ && key.timestamp() - released_ <= atOnce);
+    return (enter || space) && repeated;
 }
 
 // Where the places of windows are not known, those of a popup and of the window below it still are, each

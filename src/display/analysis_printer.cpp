@@ -80,8 +80,8 @@ std::unique_ptr<QTextDocument> printedPart(const std::vector<TextRun>& runs, int
     return part;
 }
 
-// Page numbers and reverse order are not printed, so the dialog must not offer them. QPrintDialog shows some
-// of these controls whatever its options say; inside a hidden widget they stay invisible.
+// There is no printing by page numbers or in reverse order, so the dialog must not offer it. Qt 6.8 still:
+// QPrintDialog shows these controls whatever its options say. Inside a hidden widget they stay invisible.
 void hidePageNumbers(QPrintDialog& dialog) {
     const auto* options = dialog.findChild<QWidget*>(QStringLiteral("copiesTab"));
     if (options == nullptr) return;

@@ -259,7 +259,7 @@ bool frmDisplay::eventFilter(QObject* watched, QEvent* event) {
     return true;
 }
 
-// QMdiSubWindow keeps the Tab key's focus to itself.
+// Qt 6.8 still: the Tab key never leaves a QMdiSubWindow.
 bool frmDisplay::focusNextPrevChild(bool next) {
     emit tabbedOut(next);
     return true;

@@ -41,8 +41,8 @@ class FileDialog : public QFileDialog {
     // Whether the file may be replaced by another.
     virtual bool mayReplace(const QFileInfo&) { return true; }
 
-    // Replaces the check of QFileDialog, which looks for a suffix in the whole path, ends a name at a
-    // quotation mark, shows a name as markup, and says nothing where a name is too long.
+    // Replaces the check of QFileDialog. Qt 6.8 still: it ends a name at a quotation mark, shows a name as
+    // markup, and says nothing where a name is too long.
     void accept() override {
         const auto* box = findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
         const bool quoted = box != nullptr && box->text().contains(QLatin1Char('"'));

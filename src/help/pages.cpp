@@ -52,9 +52,10 @@ QUrl addressOf(WebPage page) {
         QUrl{fileNameOf(page)});
 }
 
-// xdg-open tells whether a browser took the page; where there is none, as on Windows, QDesktopServices opens
-// it. The process has no parent: it may become the browser, which outlives the program. Messages are queued,
-// since their event loop must not run inside the process's own signals.
+// By xdg-open, which tells whether a browser took the page. Qt 6.8 still: QDesktopServices, which opens it
+// where there is no xdg-open, does not tell. The process has no parent, because it may become the browser,
+// which outlives the program. The connections are queued, so that no message runs inside the process's own
+// signals.
 void openPage(WebPage page, QWidget* asker) {
     const QUrl address = addressOf(page);
     auto* opener = new QProcess;

@@ -261,7 +261,8 @@ void frmMain::dropEvent(QDropEvent* event) {
     QMetaObject::invokeMethod(this, open, Qt::QueuedConnection);
 }
 
-// QGroupBox swallows Enter where the desktop lets Enter press buttons; here it is the default button's.
+// Qt 6.8 still: QGroupBox swallows Enter where the desktop lets Enter press buttons, and the name box would
+// not cast.
 bool frmMain::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() != QEvent::KeyPress && event->type() != QEvent::KeyRelease)
         return QDialog::eventFilter(watched, event);

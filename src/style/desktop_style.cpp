@@ -20,7 +20,7 @@ int DesktopStyle::styleHint(StyleHint hint, const QStyleOption* option, const QW
     switch (hint) {
         // Lists drop down below their box and scroll: 43 years may be more than a screen holds.
         case SH_ComboBox_Popup:
-        // QMenuBar keeps the keyboard focus unseen after Escape, or after Alt alone.
+        // Qt 6.8 still: QMenuBar keeps the focus unseen after Escape, or after Alt alone.
         case SH_MenuBar_AltKeyNavigation:
             return 0;
         default:
@@ -28,8 +28,8 @@ int DesktopStyle::styleHint(StyleHint hint, const QStyleOption* option, const QW
     }
 }
 
-// QFusionStyle writes the title of an active window within a window in white on the highlight colour, with a
-// shadow in the text colour, whatever these are on the desktop.
+// Qt 6.8 still: QFusionStyle writes the title of an active QMdiSubWindow in white on the highlight colour,
+// with a shadow in the text colour, whatever these are on the desktop.
 void DesktopStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
                                       QPainter* painter, const QWidget* widget) const {
     const auto* title = qstyleoption_cast<const QStyleOptionTitleBar*>(option);
