@@ -15,6 +15,12 @@ void DesktopStyle::drawFocusFrame(QPainter& painter, const QRect& rect, const QP
     painter.restore();
 }
 
+// Called again whenever the desktop's palette changes.
+void DesktopStyle::polish(QPalette& palette) {
+    QProxyStyle::polish(palette);
+    palette = look::legibleSelection(palette);
+}
+
 int DesktopStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                             QStyleHintReturn* more) const {
     switch (hint) {

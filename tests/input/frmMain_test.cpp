@@ -175,6 +175,7 @@ TEST_F(NameBox, TakesBackWhatWasTypedAndRepeatsBlanks) {
         EXPECT_EQ(press(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier), "ABC");
     };
     EXPECT_EQ(messagesOf(typeAndUndo), onlyLetters);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return name_->hasFocus(); }));
     name_->clear();
     for (int count = 0; count < 3; ++count) {
         QKeyEvent repeat{QEvent::KeyPress, Qt::Key_Space, Qt::NoModifier, " ", true};
