@@ -125,8 +125,9 @@ void frmDisplay::createCell(CellIndex cell, const ChartCell& content) {
     CellLabels& labels = labels_[cell.index()];
     for (std::size_t i = 0; i < labels.size(); ++i) {
         labels[i] = createLabel(square, std::string{cellLabels[i].name} + index, cellLabels[i].kind);
-        // What a line can spare is above its letters.
+        // A line's spare room is above its letters.
         labels[i]->setAlignment(Qt::AlignLeft | (isOneLine(cellLabels[i]) ? Qt::AlignBottom : Qt::AlignTop));
+        if (cellLabels[i].top == 0) labels[i]->setContentsMargins(0, 1, 0, 0);  // clear of the border
     }
     for (std::size_t i = 0; i < captionFields.size(); ++i) {
         const Caption& caption = content.*captionFields[i].field;

@@ -52,12 +52,20 @@ void DesktopStyle::drawComplexControl(ComplexControl control, const QStyleOption
 void DesktopStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
                                const QWidget* widget) const {
     const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option);
-    if (element != CE_PushButton || button == nullptr || !(option->state & State_HasFocus))
-        return QProxyStyle::drawControl(element, option, painter, widget);
-    QStyleOptionButton bare = *button;
-    bare.state &= ~State_HasFocus;  // without the style's own mark
-    QProxyStyle::drawControl(element, &bare, painter, widget);
-    drawFocusFrame(*painter, option->rect, option->palette);
+    if (element == CE_PushButton && button != nullptr && (option->state & State_HasFocus)) {
+        QStyleOptionButton bare = *button;
+        bare.state &= ~State_HasFocus;  // without the style's own mark
+        QProxyStyle::drawControl(element, &bare, painter, widget);
+        return drawFocusFrame(*painter, option->rect, option->palette);
+    }
+    QProxyStyle::drawControl(element, option, painter, widget);
+    // Qt 6.8 still: QFusionStyle draws the line below a menu bar in pieces, with gaps at a fractional device
+    // pixel ratio.
+    const bool ofMenuBar = element == CE_MenuBarItem || element == CE_MenuBarEmptyArea;
+    if (ofMenuBar && baseStyle()->name() == QStringLiteral("fusion")) {
+        const QRect line{option->rect.bottomLeft(), QSize{option->rect.width(), 1}};
+        painter->fillRect(line, option->palette.color(QPalette::Window).darker(120));
+    }
 }
 
 void DesktopStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
