@@ -63,8 +63,10 @@ void DesktopStyle::drawControl(ControlElement element, const QStyleOption* optio
     // pixel ratio.
     const bool ofMenuBar = element == CE_MenuBarItem || element == CE_MenuBarEmptyArea;
     if (ofMenuBar && baseStyle()->name() == QStringLiteral("fusion")) {
+        const QColor ground = option->palette.color(QPalette::Window);
         const QRect line{option->rect.bottomLeft(), QSize{option->rect.width(), 1}};
-        painter->fillRect(line, option->palette.color(QPalette::Window).darker(120));
+        if (!(option->state & State_Selected)) painter->fillRect(line.adjusted(0, -1, 0, 0), ground);
+        painter->fillRect(line, ground.darker(120));
     }
 }
 
