@@ -61,7 +61,7 @@ bool cast(const BirthEntry& entry, ChartModel& chart) {
     if (checkBirthEntry(entry)) return false;
     const auto date = generateChart(entry, chart);
     if (!date) return false;
-    must(date->day() <= date->monthLength() && date->yearPosition < yearCount);
+    must(date->exists() && date->yearPosition < yearCount);
     mustBeWhole(chart);
     const ChartFileValues file = chartFileValues(chartFileBytes(chart.input));
     must(wide(file.name) == chart.input.name && file.month == chart.input.month);
