@@ -1,11 +1,10 @@
 #include "interpret/texts.h"
 
-// One text a line, one block a star, the palaces in the order of palaceTexts. Tian Xing shares three texts
-// with Tian Ji and has two more nearly so: kept on purpose.
+// One text a line, one block a star, the palaces in the order of palaceNames. Intentional: Tian Xing
+// has three texts of Tian Ji, and two more that hardly differ.
 // clang-format off
-const std::array<std::array<std::string_view, palaceTextCount>, starTextCount> starInPalaceTexts{{
-    {{
-        // Zi Wei
+const std::array<std::array<std::string_view, palaceNames.size()>, starTextCount> starInPalaceTexts{{
+    {{  // Zi Wei
         "With the Zi Wei Star in the Life Palace you possess a commanding personality. You want the best of everything. People come to you for decisions and you do not like to be told what to do.",
         "Brothers and sisters respect you and never go against your decisions.",
         "Zi Wei in the marriage palace is good for late marriages only. You will get a spouse from a high family, who is capable as well as dominating by nature.",
@@ -19,8 +18,7 @@ const std::array<std::array<std::string_view, palaceTextCount>, starTextCount> s
         "The Emperor Star in the karma palace gives you noble thoughts and high standards and also a bit of loneliness. ",
         "Your parents are respectable and live long. They want to take the decisions in the matter of your career and marriage also.",
     }},
-    {{
-        // Tian Ji
+    {{  // Tian Ji
         "You are quick in learning and love changes, but due to too many works and ideas at the same time most of them remain incomplete.",
         "Brothers and sisters are intelligent and active like you, but due to frequent relocation you do not stay together.  ",
         "Tian Ji in the marriage palace is not good as it signifies an unstable marital life.",
@@ -34,8 +32,7 @@ const std::array<std::array<std::string_view, palaceTextCount>, starTextCount> s
         "You want to learn new things. You are generous yet stingy about petty things. ",
         "Tian Ji in the parents' palace denotes that your parents' life is unstable.",
     }},
-    {{
-        // Tai Yang
+    {{  // Tai Yang
         "With the blessings of the Sun you are open hearted and frank by temperament. You can not say no to anybody in money matters. People have a soft corner for you.",
         "Brothers and sisters are warm hearted and of good position, and you get help from them in money matters and also in your career.",
         "The Sun in this palace promises a respected and successful husband to women. Men will get a dominating wife from a well known family. Too much of public work is not good for your marital life.",
@@ -49,8 +46,7 @@ const std::array<std::array<std::string_view, palaceTextCount>, starTextCount> s
         "You are an optimist and like to make others happy. You are always busy with something and your sleep is less.",
         "Your father is stronger than your mother and you become like him. He prospers if you are born in the day. In case of birth at night he is too busy with his work.",
     }},
-    {{
-        // Wu Qu
+    {{  // Wu Qu
         "You are practical and honest and speak only when it is required. You do not show your emotions. People find it difficult to come near you.",
         "You are not very close to your brothers and sisters due to your work.",
         "Early marriage is not good for you. Romance is less and money matters are discussed more. There may be separation if both you and your spouse are too busy with your work.",
@@ -64,8 +60,7 @@ const std::array<std::array<std::string_view, palaceTextCount>, starTextCount> s
         "You think about work all the time. You are a moral person but a bit dry.",
         "Your parents are hard working and strict and do not express their love in words. You become independent at an early age and do not take any help from them.",
     }},
-    {{
-        // Tian Tong
+    {{  // Tian Tong
         "You are soft natured and have a tendency to put on weight. Everybody likes you. Fights and competitions are not for you.",
         "Relationship with brothers and sisters is loving and you enjoy life together.",
         "Marital bliss is very much there. Your spouse is romantic and both of you are too easy going to look after the household matters.",
@@ -79,8 +74,7 @@ const std::array<std::array<std::string_view, palaceTextCount>, starTextCount> s
         "You want to enjoy each and every moment. You are an optimist and dream a lot.",
         "Your parents are loving people with a happy marital life. You depend on them for money and decisions for very long.",
     }},
-    {{
-        // Lian Zhen
+    {{  // Lian Zhen
         "You are well dressed and diplomatic and can get your work done from anybody, but you take even a small insult to heart and remember it for years.",
         "Rivalry is indicated between you and your brothers and sisters. They are ambitious like you and do well in life.",
         "Lian Zhen in this palace may lead to jealousy and separation. You are likely to get an ambitious and good looking spouse, and late marriage is better for you.",
@@ -94,8 +88,7 @@ const std::array<std::array<std::string_view, palaceTextCount>, starTextCount> s
         "You are very particular about your image and can not digest criticism.",
         "Lian Zhen in the parents' palace indicates that your parents are ambitious and have a good position in society. They are never fully satisfied with you and there may be differences because of it.",
     }},
-    {{
-        // Tian Fu
+    {{  // Tian Fu
         "You are calm and patient. Changes do not suit you and you take a lot of time in each and every decision. Others find you slow.",
         "You will have 4 or 5 brothers and sisters and all of them are trustworthy.",
         "Your spouse is capable and handles the household finance very well. Marital life is stable. Both of you trust each other and are not very romantic.",
@@ -109,8 +102,7 @@ const std::array<std::array<std::string_view, palaceTextCount>, starTextCount> s
         "Your peace of mind is very much dependent upon your financial condition.",
         "Your parents are wealthy and live long. They do not spend much on themselves and you will inherit a good amount from them.",
     }},
-    {{
-        // Tai Yin
+    {{  // Tai Yin
         "You are shy and emotional and your mood changes very soon. You like to remain at home with your family and keep the house clean.",
         "You have more sisters than brothers and your relationship with them is close. One of them may help you in money matters.",
         "The Moon in this palace gives you a beautiful and gentle spouse. Men gain wealth through their wives. In case of women, the husband is a bit too emotional.",
@@ -124,8 +116,7 @@ const std::array<std::array<std::string_view, palaceTextCount>, starTextCount> s
         "Tai Yin in the karma palace makes you sensitive and a bit pessimistic by nature, and you need music and quiet places for your peace of mind.",
         "You are attached to your mother, whose health needs a bit of care in her old age.",
     }},
-    {{
-        // Tan Lang
+    {{  // Tan Lang
         "You are attractive and multi talented and people get influenced by you very easily. You want everything at the same time and too many desires are there.",
         "Step brothers or step sisters are possible. There is lack of trust in the relationship. Business with them is not advisable for you.",
         "Tan Lang in the marriage palace denotes romance before as well as after marriage. Late marriage is better for you as you like freedom and take time to settle down.",
@@ -139,8 +130,7 @@ const std::array<std::array<std::string_view, palaceTextCount>, starTextCount> s
         "Tan Lang in the karma palace gives you too many desires and you are never satisfied.",
         "Your parents are free thinking people and give you a lot of freedom from childhood, but their own marital life is not very stable and there may be a separation at some time.",
     }},
-    {{
-        // Ju Men
+    {{  // Ju Men
         "You have a sharp memory and good speaking power. You are doubtful by nature and ask too many questions, and it is because of this that some people take you to be rude and keep away from you.",
         "Misunderstandings with brothers and sisters are indicated due to your words.",
         "Too many arguments are there in your marital life over small and useless things. A spouse elder to you is better for marital bliss.",
@@ -154,8 +144,7 @@ const std::array<std::array<std::string_view, palaceTextCount>, starTextCount> s
         "You are a bit pessimistic by nature and doubt everything. Silence for some time daily is good for your peace of mind and also for your relationships.",
         "Your parents have arguments with each other and also with you. One of them may not be keeping good health.",
     }},
-    {{
-        // Tian Xing
+    {{  // Tian Xing
         "You are sincere and helpful to all. Everybody depends on you for their work. Credit and promotion go to somebody else and you do not say anything.",
         "You are very helpful to your brothers and sisters and ask them before every decision.",
         "Your spouse may be a person known to your family. Marital life is peaceful as both of you are sensible and you leave the important decisions to your partner.",
@@ -169,8 +158,7 @@ const std::array<std::array<std::string_view, palaceTextCount>, starTextCount> s
         "You want to learn new things. You are generous yet stingy about petty things.",
         "Tian Xing in the parents' palace denotes that your parents' life is unstable.",
     }},
-    {{
-        // Tian Liang
+    {{  // Tian Liang
         "You are a mature and respectable person and others come to you for advice. You like to guide people. At times you interfere in matters which are not yours.",
         "An elder brother or sister protects you like a parent. In case you are the eldest, then you have to take care of the others.",
         "Your spouse is mature and elder to you and takes care of you like a guardian, and the marital life is long.",
@@ -184,8 +172,7 @@ const std::array<std::array<std::string_view, palaceTextCount>, starTextCount> s
         "You are optimistic and spiritual by nature and your bad times go away very easily.",
         "Tian Liang in the parents' palace denotes that your parents will have a long life and good health. They have moral values and protect you in your bad times.",
     }},
-    {{
-        // Qi Sha
+    {{  // Qi Sha
         "You are bold and like to do everything on your own without the help of others. Early life is full of ups and downs and you settle down after 40 years of age.",
         "You do not get along with your brothers and sisters and may live separately.",
         "Qi Sha in the marriage palace signifies clashes with the spouse, who is as independent as you. You are practical and not emotional in matters of marriage.",
