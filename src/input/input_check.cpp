@@ -3,7 +3,7 @@
 std::optional<InputFailure> checkBirthEntry(const BirthEntry& entry) {
     if (entry.name.empty()) return InputFailure{"Please Enter Your Name !", InputField::txtName};
     if (entry.date.exists()) return std::nullopt;
-    // The doubled "of" is kept on purpose: it tells the two date messages apart.
+    // Intentional: the doubled "of" in the message for the other months.
     const bool february = entry.date.month() == 2;
     return InputFailure{
         february ? "Please Enter Correct Date Of Birth !" : "Please Enter Correct Date Of of Birth !",
