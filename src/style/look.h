@@ -7,13 +7,16 @@
 #include <QString>
 #include <QWidget>
 
+#include "interpret/text_run.h"
+
 namespace look {
 
-// The colours come from the analysis; the papers are the light grounds on which they are read, whatever the
-// desktop's theme.
-inline constexpr QColor blue{13, 36, 166};
-inline constexpr QColor brown{101, 14, 14};
-inline constexpr QColor red{128, 0, 0};
+constexpr QColor colourOf(const Rgb& rgb) { return {rgb.red, rgb.green, rgb.blue}; }
+
+// The colours of text, and the light papers on which it is read, whatever the desktop's theme.
+inline constexpr QColor blue = colourOf(analysisBlue);
+inline constexpr QColor brown = colourOf(analysisBrown);
+inline constexpr QColor red = colourOf(analysisRed);
 inline constexpr QColor green{0, 96, 40};
 inline constexpr QColor ink{32, 28, 26};
 inline constexpr QColor quiet{96, 84, 78};
