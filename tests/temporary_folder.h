@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 #include <stdlib.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <filesystem>
@@ -32,17 +33,13 @@ class TemporaryFolder : public testing::Test {
         return found;
     }
 
-    // Runs the action, before which the folder was closed to new files, without the rights that root has to
-    // everything.
+    // Runs the action while the folder takes no new files, and without the rights that root has to everything.
     void inClosedFolder(const std::function<void()>& action) const {
-        using std::filesystem::perms, std::filesystem::permissions;
         const uid_t own = ::getuid(), other = own == 0 ? 65534 : own;
-        EXPECT_EQ(::chown(folder_.c_str(), other, static_cast<gid_t>(-1)), 0);
-        permissions(folder_, perms::owner_read | perms::owner_exec);
+        EXPECT_EQ(::chown(folder_.c_str(), other, ::getgid()) | ::chmod(folder_.c_str(), 0500), 0);
         EXPECT_EQ(::setresuid(other, other, own), 0);
         action();
-        EXPECT_EQ(::setresuid(own, own, own), 0);
-        permissions(folder_, perms::owner_all);
+        EXPECT_EQ(::setresuid(own, own, own) | ::chmod(folder_.c_str(), 0700), 0);
     }
 
     std::string folder_ = testing::TempDir() + "palace.lantern-XXXXXX";

@@ -11,9 +11,8 @@ class Start : public TemporaryFolder {};
 TEST_F(Start, IsOfOneProgramAlsoWithoutARuntimeFolder) {
     const QByteArray before = qgetenv("XDG_RUNTIME_DIR");
     qputenv("TMPDIR", folder_.c_str());
-    // A lock in the folder that all users share may be another's.
     QLockFile others{QDir::temp().filePath("palace-lantern-" + QDir::home().dirName() + ".lock")};
-    EXPECT_TRUE(others.tryLock());
+    EXPECT_TRUE(others.tryLock()) << "what lies in a folder that all users share may be another's";
     for (const std::string& runtime : {folder_ + "/missing/folder", std::string{"/proc"}, std::string{}}) {
         runtime.empty() ? qunsetenv("XDG_RUNTIME_DIR") : qputenv("XDG_RUNTIME_DIR", runtime.c_str());
         const SingleInstance first, second;
@@ -25,22 +24,18 @@ TEST_F(Start, IsOfOneProgramAlsoWithoutARuntimeFolder) {
 }
 
 TEST_F(Start, NeedsTheConverterAsAFile) {
-    const std::string program = folder_ + "/form_tests";
-    if (!QCoreApplication::applicationFilePath().contains("palace.lantern-")) {
-        // In a folder of its own, so that the converter of the other tests stays where it is.
-        std::filesystem::copy(QCoreApplication::applicationFilePath().toStdString(), program);
-        const QStringList filter{"--gtest_filter=Start.NeedsTheConverterAsAFile"};
-        EXPECT_EQ(QProcess::execute(QString::fromStdString(program), filter), 0);
+    const QString self = QCoreApplication::applicationFilePath(), copy = (folder_ + "/copy").c_str();
+    if (!self.endsWith("/copy")) {  // which has no converter beside it
+        EXPECT_TRUE(requiredFileIsPresent() && QFile::copy(self, copy));
+        EXPECT_EQ(QProcess::execute(copy, {"--gtest_filter=Start.NeedsTheConverterAsAFile"}), 0);
         return;
     }
-    const std::filesystem::path converter = converterPath().toStdString();
-    const QStringList missing{"Palace Lantern Message|critical|Required File Is Missing\nPlease Reinstall Software"};
-    EXPECT_EQ(messagesOf([] { EXPECT_FALSE(requiredFileIsPresent()); }), missing);
-    std::filesystem::create_directory(converter);
-    EXPECT_EQ(messagesOf([] { EXPECT_FALSE(requiredFileIsPresent()); }), missing);
-    std::filesystem::remove(converter);
-    write(converter.string(), "");
-    EXPECT_TRUE(requiredFileIsPresent());
+    const auto told = [] { return messagesOf([] { EXPECT_FALSE(requiredFileIsPresent()); }); };
+    const QStringList missing{
+        "Palace Lantern Message|critical|Required File Is Missing\nPlease Reinstall Software"};
+    EXPECT_EQ(told(), missing);
+    EXPECT_TRUE(QDir{}.mkdir(converterPath()));
+    EXPECT_EQ(told(), missing);
 }
 
 TEST_F(Start, TakesOneChartFile) {
@@ -51,8 +46,14 @@ TEST_F(Start, TakesOneChartFile) {
         EXPECT_EQ(QProcess::execute(PROGRAM_PATH, wrong), 1);
     const std::tuple<std::string, QStringList, QString, QString> files[]{
         {chart, {}, "JOHN SMITH 5 March 1985 0 0", "cmbHour"},
-        {empty, {"Palace Lantern Message|information|Please Enter Your Name !"}, " 1 January 1970 0 0", "txtName"},
-        {"/none.plf", {"Palace Lantern Message|critical|Please Check The File."}, " 1 January 1970 0 0", "txtName"},
+        {empty,
+         {"Palace Lantern Message|information|Please Enter Your Name !"},
+         " 1 January 1970 0 0",
+         "txtName"},
+        {"/none.plf",
+         {"Palace Lantern Message|critical|Please Check The File."},
+         " 1 January 1970 0 0",
+         "txtName"},
     };
     for (const auto& [file, messages, after, focus] : files) {
         Application application;
