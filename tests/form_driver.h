@@ -119,6 +119,7 @@ class Program : public TemporaryFolder {
         enter("JOHN SMITH", date, hour, minute);
         choose("frmMain", "mnuGenerateChart");
         EXPECT_TRUE(QTest::qWaitForWindowActive(find("frmMdi")));
+        EXPECT_TRUE(QTest::qWaitFor([] { return find("cmdShowAll")->hasFocus(); }));
     }
 
     Application application_;
