@@ -34,7 +34,7 @@ class FileDialog : public QFileDialog {
         const QSize room = parentWidget()->screen()->availableSize() - QSize{40, 60};
         resize(sizeHint().expandedTo(QSize{720, 460}).boundedTo(room));
         const bool chosen = exec() == Accepted;
-        // Some window managers of X11 give the focus to nobody where two windows close at once. Until Qt 6.8:
+        // Some window managers of X11 give the focus to nobody where two windows close at once. Qt 6.8 still:
         // under Wayland, activating a window while a closed dialog still exists can crash.
         if (placesAreKnown()) parentWidget()->activateWindow();
         return chosen ? path_ : QString{};
