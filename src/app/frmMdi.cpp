@@ -35,7 +35,6 @@ frmMdi::frmMdi(QWidget* chart, const QString& person, std::function<QSize(QSize)
     setWindowTitle(look::productName() + QStringLiteral(" - ") + person.left(longestTitle));
     createStrip();
     area_ = new QMdiArea;
-    area_->setBackground(palette().color(QPalette::Window).darker(112));
     area_->setFocusPolicy(Qt::NoFocus);
     auto* content = new QWidget;
     auto* rows = new QVBoxLayout{content};
@@ -45,8 +44,11 @@ frmMdi::frmMdi(QWidget* chart, const QString& person, std::function<QSize(QSize)
     rows->addWidget(area_);
     setCentralWidget(content);
     hostChart(chart);
+    followPalette();
     MDIForm_Load();
 }
+
+void frmMdi::followPalette() { area_->setBackground(palette().color(QPalette::Window).darker(112)); }
 
 void frmMdi::MDIForm_Load() { placeStrip(); }
 
@@ -102,6 +104,8 @@ void frmMdi::showInPlaceOf(const QWidget& form) {
 // moment.
 void frmMdi::changeEvent(QEvent* event) {
     QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange) followPalette();
+    if (event->type() == QEvent::FontChange && isVisible()) placeChart();
     if (event->type() != QEvent::WindowStateChange || isMaximized() || isMinimized() || !isActiveWindow())
         return;
     if (std::exchange(wasRestored_, true)) return;

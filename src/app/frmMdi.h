@@ -44,6 +44,7 @@ class frmMdi : public QMainWindow {
     void MDIForm_Load();
     void createStrip();
     void hostChart(QWidget* chart);
+    void followPalette();
     void placeStrip();
     void placeChart();
     bool fillsScreen() const;

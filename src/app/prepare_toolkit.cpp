@@ -1,12 +1,36 @@
 #include "app/prepare_toolkit.h"
 
 #include <QApplication>
+#include <QEvent>
+#include <QFontDatabase>
 #include <QPixmapCache>
 
 #include "app/press_filter.h"
 #include "display/chart_accessibility.h"
 #include "style/desktop_style.h"
 #include "style/look.h"
+
+namespace {
+
+// In the desktop's size, which may change while the program runs.
+class DesktopFont : public QObject {
+  public:
+    explicit DesktopFont(QObject* parent) : QObject(parent) { follow(); }
+
+  protected:
+    bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() == QEvent::ThemeChange) follow();
+        return false;
+    }
+
+  private:
+    static void follow() {
+        const QFont font = look::textFont(QFontDatabase::systemFont(QFontDatabase::GeneralFont));
+        if (font != QApplication::font()) QApplication::setFont(font);
+    }
+};
+
+}  // namespace
 
 void prepareToolkit() {
     QApplication::setApplicationName(QStringLiteral("palace-lantern"));
@@ -18,7 +42,7 @@ void prepareToolkit() {
     // length.
     QPixmapCache::setCacheLimit(0);
     QApplication::setStyle(new DesktopStyle);
-    QApplication::setFont(look::textFont(QApplication::font()));
+    qApp->installEventFilter(new DesktopFont{qApp});
     QApplication::setWindowIcon(look::productIcon());
     qApp->installEventFilter(new PressFilter{qApp});
     installChartAccessibility();

@@ -1,13 +1,13 @@
 #include "help/frmAbout.h"
 
 #include <QGridLayout>
-#include <QIcon>
 #include <QLabel>
 #include <QShortcut>
 
 #include "help/pages.h"
 #include "style/controls.h"
 #include "style/look.h"
+#include "style/mark.h"
 
 namespace {
 
@@ -22,9 +22,6 @@ QLabel* plainLabel(const QString& text, const char* name) {
 frmAbout::frmAbout(QWidget* parent) : QDialog(parent) {
     named(this, "frmAbout");
     setWindowTitle(QStringLiteral("About Palace Lantern"));
-    auto* mark = new QLabel;
-    mark->setAccessibleName(QStringLiteral("Lantern"));
-    mark->setPixmap(look::productIcon().pixmap(QSize{64, 64}, devicePixelRatioF()));
     QLabel* product = plainLabel(look::productName(), "lblProduct");
     product->setFont(look::titleFont());
     QLabel* purpose = plainLabel(
@@ -41,7 +38,7 @@ frmAbout::frmAbout(QWidget* parent) : QDialog(parent) {
     grid->setSizeConstraint(QLayout::SetFixedSize);
     grid->setContentsMargins(18, 18, 18, 14);
     grid->setHorizontalSpacing(16);
-    grid->addWidget(mark, 0, 0, 3, 1, Qt::AlignTop);
+    grid->addWidget(new Mark{64}, 0, 0, 3, 1, Qt::AlignTop);
     grid->addWidget(product, 0, 1);
     grid->addWidget(
         plainLabel(QStringLiteral("Version %1").arg(QStringLiteral(PALACE_LANTERN_VERSION)), "lblVersion"), 1,

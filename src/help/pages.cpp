@@ -26,8 +26,7 @@ QString fileNameOf(WebPage page) {
 QDir helpFolder() {
     const QDir program{QCoreApplication::applicationDirPath()};
     const QDir beside{program.filePath(QStringLiteral("help"))};
-    return beside.exists() ? beside
-                           : QDir{program.filePath(QStringLiteral(PALACE_LANTERN_HELP_FOLDER))};
+    return beside.exists() ? beside : QDir{program.filePath(QStringLiteral(PALACE_LANTERN_HELP_FOLDER))};
 }
 
 // xdg-open tells within seconds that it found no browser; a process that ends later was the browser.

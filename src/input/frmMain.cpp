@@ -18,6 +18,7 @@
 #include "input/name_box.h"
 #include "style/controls.h"
 #include "style/look.h"
+#include "style/mark.h"
 #include "style/message.h"
 
 namespace {
@@ -58,6 +59,7 @@ frmMain::frmMain() {
     setAcceptDrops(true);
     createControls();
     Form_Load();
+    followFont();
     txtName->setFocus();
 }
 
@@ -100,11 +102,8 @@ QWidget* frmMain::createBanner() {
     auto* banner = new QWidget;
     auto* row = new QHBoxLayout{banner};
     row->setContentsMargins(0, 0, 0, 0);
-    auto* mark = new QLabel;
-    mark->setAccessibleName(QStringLiteral("Lantern"));
-    mark->setPixmap(windowIcon().pixmap(QSize{48, 48}, devicePixelRatioF()));
-    row->addWidget(mark);
-    row->addWidget(new BannerLink{look::titleFont(), this, banner});
+    row->addWidget(new Mark{48});
+    row->addWidget(lblBanner = new BannerLink{look::titleFont(), this, banner});
     row->addStretch();
     return banner;
 }
@@ -149,9 +148,6 @@ QWidget* frmMain::createButtons() {
     cmdOpen = newButton("cmdOpen", "Click Here To Open Previously Saved Palace Lantern Interpretation", this,
                         &frmMain::cmdOpen_Click);
     cmExit = newButton("cmExit", "&Exit", this, &frmMain::cmExit_Click);
-    for (QPushButton* button : {cmdGenerateChart, cmdOpen, cmExit}) {
-        button->setMinimumHeight(button->fontMetrics().height() + 14);
-    }
 
     auto* buttons = new QWidget;
     auto* rows = new QVBoxLayout{buttons};
@@ -272,6 +268,19 @@ bool frmMain::eventFilter(QObject* watched, QEvent* event) {
 
 // Escape in the first window of the program would lose what was entered: it does nothing.
 void frmMain::reject() {}
+
+void frmMain::changeEvent(QEvent* event) {
+    QDialog::changeEvent(event);
+    if (event->type() == QEvent::FontChange) followFont();
+}
+
+// What is measured by the desktop's font, which may change.
+void frmMain::followFont() {
+    lblBanner->setFont(look::titleFont());
+    for (QPushButton* button : {cmdGenerateChart, cmdOpen, cmExit})
+        button->setMinimumHeight(fontMetrics().height() + 14);
+    if (isVisible()) fitToScreen();
+}
 
 // Fitted anew each time: the screen may have changed while the form was hidden.
 void frmMain::setVisible(bool visible) {

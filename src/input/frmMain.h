@@ -5,6 +5,7 @@
 
 #include "chart/birth_entry.h"
 
+class BannerLink;
 class NameBox;
 class QComboBox;
 class QGridLayout;
@@ -51,6 +52,7 @@ class frmMain : public QDialog {
     void closed();
 
   protected:
+    void changeEvent(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dragMoveEvent(QDragMoveEvent* event) override;
@@ -62,6 +64,7 @@ class frmMain : public QDialog {
     void Form_Load();
     void considerDrop(QDropEvent* event);
     void fitToScreen();
+    void followFont();
     void createControls();
     void createMenus();
     QWidget* createBanner();
@@ -73,6 +76,7 @@ class frmMain : public QDialog {
     BirthEntry entry() const;
 
     QScrollArea* scroll_;
+    BannerLink* lblBanner;
     NameBox* txtName;
     QComboBox* cmbDate;
     QComboBox* cmbMonth;
