@@ -105,7 +105,9 @@ void frmMdi::showInPlaceOf(const QWidget& form) {
 void frmMdi::changeEvent(QEvent* event) {
     QMainWindow::changeEvent(event);
     if (event->type() == QEvent::PaletteChange) followPalette();
-    if (event->type() == QEvent::FontChange && isVisible()) placeChart();
+    // Queued, because the menu bar takes the new font later.
+    if (event->type() == QEvent::FontChange && isVisible())
+        QMetaObject::invokeMethod(this, &frmMdi::placeChart, Qt::QueuedConnection);
     if (event->type() != QEvent::WindowStateChange || isMaximized() || isMinimized() || !isActiveWindow())
         return;
     if (std::exchange(wasRestored_, true)) return;

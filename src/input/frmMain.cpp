@@ -8,6 +8,7 @@
 #include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QWindow>
 
 #include "files/chart_file.h"
 #include "help/banner_link.h"
@@ -59,7 +60,6 @@ frmMain::frmMain() {
     setAcceptDrops(true);
     createControls();
     Form_Load();
-    followFont();
     txtName->setFocus();
 }
 
@@ -81,6 +81,7 @@ void frmMain::createControls() {
     rows->addWidget(createDetails());
     rows->addWidget(createButtons());
     rows->addStretch();
+    followFont();
 
     // On a screen that is too small for the form, the form scrolls; in a window that is too wide, as on a
     // tiling desktop, its content stays in the middle.
@@ -279,20 +280,27 @@ void frmMain::followFont() {
     lblBanner->setFont(look::titleFont());
     for (QPushButton* button : {cmdGenerateChart, cmdOpen, cmExit})
         button->setMinimumHeight(fontMetrics().height() + 14);
-    if (isVisible()) fitToScreen();
+    // Queued, because the layouts take the new sizes later.
+    if (isVisible()) QMetaObject::invokeMethod(this, &frmMain::fitToScreen, Qt::QueuedConnection);
 }
 
-// Fitted anew each time: the screen may have changed while the form was hidden.
+// Fitted anew each time: the screen may have changed while the form was hidden, or may change later.
 void frmMain::setVisible(bool visible) {
-    if (visible) fitToScreen();
+    if (visible) {
+        fitToScreen();
+        const QRect room = screen()->availableGeometry();
+        const QSize rest = (room.size() - size()) / 2;
+        move(room.topLeft() + QPoint{rest.width(), rest.height() / 2});
+    }
     QDialog::setVisible(visible);
+    if (visible)
+        connect(windowHandle(), &QWindow::screenChanged, this, &frmMain::fitToScreen, Qt::UniqueConnection);
     setAttribute(Qt::WA_KeyboardFocusChange);  // else some styles show the focus only after a key
 }
 
-// As large as its content and in the middle of the screen.
+// As large as its content, as far as the screen allows.
 void frmMain::fitToScreen() {
-    const QRect available = screen()->availableGeometry();
-    const QSize room = available.size() - QSize{16, 40};
+    const QSize room = screen()->availableSize() - QSize{16, 40};
     // A little more than needed: the longest button gets room round its words, and at fractional scales,
     // windows are rounded to whole device pixels.
     constexpr QSize spare{24, 2};
@@ -303,6 +311,4 @@ void frmMain::fitToScreen() {
     size = size.boundedTo(room);
     setMinimumSize(size);
     resize(size);
-    const QSize rest = (available.size() - size) / 2;
-    move(available.topLeft() + QPoint{rest.width(), rest.height() / 2});
 }
