@@ -13,7 +13,7 @@ int main(int argc, char* argv[]) {
         qputenv("QT_QPA_PLATFORM", "offscreen");
     const QTemporaryDir settings;  // file dialogs remember where they were
     qputenv("XDG_CONFIG_HOME", settings.path().toUtf8());
-    QApplication toolkit{argc, argv};
+    Toolkit toolkit{argc, argv};
     prepareToolkit();
     return RUN_ALL_TESTS();
 }

@@ -16,11 +16,12 @@ bool entersText(const QWidget* widget) {
 
 }  // namespace
 
-bool PressFilter::eventFilter(QObject* watched, QEvent* event) {
-    auto* window = qobject_cast<QWindow*>(watched);
+bool PressFilter::discards(QObject* receiver, QEvent* event) {
+    auto* window = qobject_cast<QWindow*>(receiver);
     if (window == nullptr) return false;
     switch (event->type()) {
         case QEvent::KeyRelease:
+            if (static_cast<QKeyEvent*>(event)->timestamp() == 0) return false;
             releasedKey_ = static_cast<QKeyEvent*>(event)->key();
             released_ = static_cast<QKeyEvent*>(event)->timestamp();
             return false;
@@ -43,8 +44,8 @@ bool PressFilter::isRepeated(const QKeyEvent& key) const {
     const int code = key.key();
     const bool enter = code == Qt::Key_Return || code == Qt::Key_Enter;
     const bool space = code == Qt::Key_Space && !entersText(QApplication::focusWidget());
-    const bool repeated =
-        key.isAutoRepeat() || (code == releasedKey_ && key.timestamp() - released_ <= atOnce);
+    const bool follows = code == releasedKey_ && key.timestamp() - released_ <= atOnce;
+    const bool repeated = key.isAutoRepeat() || (key.timestamp() != 0 && follows);
     return (enter || space) && repeated;
 }
 

@@ -1,4 +1,4 @@
-// An application-wide event filter: what a press has opened, the same press does not close.
+// What a press has opened, the same press does not close.
 #pragma once
 
 #include <QObject>
@@ -9,14 +9,13 @@
 class QKeyEvent;
 class QMouseEvent;
 
-class PressFilter : public QObject {
-    Q_OBJECT
+class PressFilter {
   public:
-    using QObject::QObject;
-
-    // Discards the auto-repeat of Enter, and of Space outside text boxes; and the second half of a double
-    // click whose first half went to another window, unless it goes to a popup.
-    bool eventFilter(QObject* watched, QEvent* event) override;
+    // Whether the event must not be delivered to its receiver: the auto-repeat of Enter, and of Space outside
+    // text boxes; the second half of a double click whose first half went to another window, unless it goes
+    // to a popup. To be called before any event filter: while assistive technology listens, Qt's own filter
+    // replaces each key event by one without a timestamp.
+    bool discards(QObject* receiver, QEvent* event);
 
   private:
     bool isRepeated(const QKeyEvent& key) const;
