@@ -14,8 +14,7 @@ void prepareToolkit() {
     QApplication::setDesktopFileName(QStringLiteral("palace-lantern"));
     QApplication::setQuitOnLastWindowClosed(false);
     QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
-    // Else the toolkit keeps a picture of each scroll bar that it draws, and every text has one of its own
-    // length.
+    // Else the style caches a pixmap of every scroll bar, which differs with the length of the text.
     QPixmapCache::setCacheLimit(0);
     QApplication::setStyle(new DesktopStyle);
     QApplication::setFont(look::textFont(QApplication::font()));

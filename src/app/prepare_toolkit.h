@@ -1,6 +1,6 @@
-// What the toolkit is told once for the whole program.
+// The settings of the QApplication.
 #pragma once
 
-// Sets the program's name, its font, colours, icon and style, the toolkit's own dialogs on every desktop, and
-// how the chart is told to a screen reader. To be called once, when the QApplication has been made.
+// Sets name, font, style, icon, event filter, accessibility and the use of Qt's own dialogs. To be called
+// once, after the QApplication is constructed.
 void prepareToolkit();

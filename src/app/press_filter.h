@@ -1,4 +1,4 @@
-// An application-wide event filter: what a press has opened, the same press does not close.
+// An application-wide event filter: the press that opens a window does not also act on what it opened.
 #pragma once
 
 #include <QObject>
@@ -14,18 +14,18 @@ class PressFilter : public QObject {
   public:
     using QObject::QObject;
 
-    // Discards the auto-repeat of Enter, and of Space outside text boxes; and the second half of a double
-    // click whose first half went to another window, unless it goes to a popup.
+    // Discards the auto-repeat of Enter, and of Space outside text boxes; and the second click of a double
+    // click whose first went to another window, unless the second goes to a popup.
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
     bool isRepeated(const QKeyEvent& key) const;
-    bool isSecondHalf(const QMouseEvent& click, QWindow* window);
+    bool isSecondClick(const QMouseEvent& click, QWindow* window);
 
     int releasedKey_ = 0;
     quint64 released_ = 0;  // timestamp in milliseconds
     QPointer<QWindow> clickedWindow_;
     quint64 clicked_ = 0;  // timestamp in milliseconds
     QPointF clickedPlace_;
-    bool discardsClick_ = false;  // the one that is going on
+    bool discardsClick_ = false;  // the current one
 };
