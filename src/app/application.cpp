@@ -52,7 +52,9 @@ bool Application::openChart(const QString& path) {
 
 void Application::castChart(const BirthEntry& entry) {
     const auto date = generateChart(entry, chart_);
-    if (!date) return input_->refuseDate();
+    if (!date)
+        return showMessage(input_.get(), QMessageBox::Information,
+                           QStringLiteral("Please Enter Correct Date"));
     input_->showDate(*date);
     showChart({entry.name, *date, entry.hourPosition, entry.minutePosition});
 }

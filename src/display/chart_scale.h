@@ -1,7 +1,6 @@
 // The layout of the square of cells, and the scale at which the chart is drawn.
 #pragma once
 
-#include <QPoint>
 #include <QRect>
 #include <QSize>
 #include <array>

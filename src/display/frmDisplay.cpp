@@ -101,7 +101,7 @@ void frmDisplay::createMenus() {
     mnuFile->addSeparator();
     addEntry(mnuFile, "mnuFileBack", "&Back", this, &frmDisplay::backRequested);
     addEntry(mnuFile, "mnuExit", "E&xit", this, &frmDisplay::exitRequested);
-    menus_->addMenu(new HelpMenu{this});
+    menus_->addMenu(newHelpMenu(this));
 }
 
 void frmDisplay::openMenu(int key) {

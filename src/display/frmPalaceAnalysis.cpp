@@ -37,7 +37,6 @@ frmPalaceAnalysis::frmPalaceAnalysis(AnalysisKind kind, const std::vector<TextRu
     rows->setSpacing(10);
     rows->addWidget(RTB);
     createButtons(rows);
-    cmdOk->setDefault(true);
     createMenus();
     createKeys();
     fitToScreen();
@@ -64,22 +63,23 @@ void frmPalaceAnalysis::createText() {
 }
 
 void frmPalaceAnalysis::createButtons(QVBoxLayout* rows) {
-    cmdSave = newButton("cmdSave", "&Save", this, &frmPalaceAnalysis::saveRequested);
-    cmdPrint = newButton("cmdPrint", "&Print", this, &frmPalaceAnalysis::cmdPrint_Click);
-    cmdOk = newButton("cmdOk", "&OK", this, &QDialog::accept);
+    auto* cmdSave = newButton("cmdSave", "&Save", this, &frmPalaceAnalysis::saveRequested);
+    auto* cmdPrint = newButton("cmdPrint", "&Print", this, &frmPalaceAnalysis::cmdPrint_Click);
+    auto* cmdOk = newButton("cmdOk", "&OK", this, &QDialog::accept);
     auto* row = new QHBoxLayout;
     row->addStretch();
     for (QPushButton* button : {cmdSave, cmdPrint, cmdOk}) row->addWidget(button);
     rows->addLayout(row);
     cmdSave->setHidden(kind_ == AnalysisKind::onePalace);
     cmdPrint->setHidden(kind_ == AnalysisKind::onePalace);
+    cmdOk->setDefault(true);  // needs its dialog, which the layout has set as its parent
 }
 
 void frmPalaceAnalysis::createMenus() {
     QMenuBar* menus = newMenuBar(this);
     auto* mnuFile = addMenu(menus, "mnuFile", "&File");
     addEntry(mnuFile, "mnuOk", "&Ok", this, &QDialog::accept);
-    menus->addMenu(new HelpMenu{this});
+    menus->addMenu(newHelpMenu(this));
     layout()->setMenuBar(menus);
 }
 

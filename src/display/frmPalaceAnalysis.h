@@ -6,7 +6,6 @@
 
 #include "interpret/text_run.h"
 
-class QPushButton;
 class QTextEdit;
 class QVBoxLayout;
 
@@ -52,7 +51,4 @@ class frmPalaceAnalysis : public QDialog {
     QSize firstSize_;      // of the window
     int turnedAngle_ = 0;  // of the wheel since the last step, in eighths of a degree
     QTextEdit* RTB;
-    QPushButton* cmdSave;
-    QPushButton* cmdPrint;
-    QPushButton* cmdOk;
 };
