@@ -6,7 +6,6 @@
 #include "app/start_rules.h"
 #include "chart/generate.h"
 #include "display/frmDisplay.h"
-#include "display/frmPalaceAnalysis.h"
 #include "files/chart_file.h"
 #include "files/file_dialogs.h"
 #include "files/picture_export.h"
@@ -24,7 +23,7 @@ Application::Application() : input_(std::make_unique<frmMain>()) {
 
 Application::~Application() = default;
 
-// A chart at once would be one for midnight, and so for the day after: the time of birth comes first.
+// Casts no chart yet: a chart file has no time of birth, and midnight would give the chart of the next day.
 void Application::start(const QString& chartFile) {
     input_->show();
     if (!chartFile.isEmpty() && openChart(chartFile)) input_->askForTime();
@@ -39,8 +38,7 @@ void Application::openAndCastChart(const QString& path) {
     if (openChart(path)) input_->cmdGenerateChart_Click();
 }
 
-// Fills the form in from a chart file and returns whether the file could be read. If not, the form stays as
-// it is.
+// Fills the form in from a chart file and returns whether the file could be read; if not, says so.
 bool Application::openChart(const QString& path) {
     const auto bytes =
         hasChartFileEnding(path.toStdString()) ? readFile(path, longestChartFile) : std::nullopt;
@@ -54,36 +52,25 @@ bool Application::openChart(const QString& path) {
 
 void Application::castChart(const BirthEntry& entry) {
     const auto date = generateChart(entry, chart_);
-    if (!date) return input_->refuseDate();
+    if (!date)
+        return showMessage(input_.get(), QMessageBox::Information,
+                           QStringLiteral("Please Enter Correct Date"));
     input_->showDate(*date);
     showChart({entry.name, *date, entry.hourPosition, entry.minutePosition});
 }
 
 void Application::showChart(const BirthEntry& entry) {
     auto* display = new frmDisplay{chart_, entry};
-    frame_ = std::make_unique<frmMdi>(display, QString::fromStdU16String(chart_.input.name),
-                                      [display](QSize room) { return display->fitInto(room); });
-    connectChart(display);
-    input_->hide();
-    frame_->showInPlaceOf(*input_);
-}
-
-void Application::connectChart(frmDisplay* display) {
+    frame_ = std::make_unique<frmMdi>(display, QString::fromStdU16String(chart_.input.name));
     frmMdi* frame = frame_.get();
-    const auto savePicture = [display, frame] {
-        exportPicture(display->clientPicture(), converterPath(), frame);
-    };
     connect(display, &frmDisplay::palaceClicked, this, &Application::openPalace);
-    connect(display, &frmDisplay::showAllRequested, this, &Application::openAllPalaces);
-    connect(display, &frmDisplay::savePictureRequested, frame, savePicture);
-    connect(display, &frmDisplay::backRequested, this, &Application::cmdBack_Click);
-    connect(display, &frmDisplay::exitRequested, frame, &frmMdi::cmdMdiExit_Click);
-    connect(display, &frmDisplay::tabbedOut, frame, &frmMdi::focusStrip);
     connect(frame, &frmMdi::showAllRequested, this, &Application::openAllPalaces);
-    connect(frame, &frmMdi::savePictureRequested, frame, savePicture);
+    connect(frame, &frmMdi::savePictureRequested, display,
+            [=] { exportPicture(display->clientPicture(), converterPath(), frame); });
     connect(frame, &frmMdi::backRequested, this, &Application::cmdBack_Click);
-    connect(frame, &frmMdi::menuKeyPressed, display, &frmDisplay::openMenu);
     connect(frame, &frmMdi::closed, this, &Application::unloadAll);
+    input_->hide();
+    frame->showInPlaceOf(*input_);
 }
 
 void Application::openPalace(int cell) {
@@ -101,13 +88,13 @@ void Application::openAnalysis(AnalysisKind kind, const std::vector<TextRun>& pa
     analysisView_ = analysis.view();
 }
 
-// Intentional: a save that the disk refuses ends in silence.
+// Intentional: a file that cannot be written is not reported.
 void Application::saveChart(QWidget* parent) {
     const QString path = askWhereToSaveChart(parent);
     if (!path.isEmpty()) static_cast<void>(writeFile(path, chartFileBytes(chart_.input)));
 }
 
-// The frame is deleted later, because one of its own controls asks for it.
+// Deleted later, because a signal of the frame's own control is being handled.
 void Application::cmdBack_Click() {
     input_->clearEntry();
     frame_->hide();

@@ -1,4 +1,4 @@
-// Owns the chart, opens and saves its files, and does what the forms ask for by their signals.
+// Owns the chart, opens and saves its files, and connects the forms.
 #pragma once
 
 #include <QObject>
@@ -7,14 +7,10 @@
 
 #include "chart/birth_entry.h"
 #include "chart/chart_model.h"
-#include "display/analysis_view.h"
-#include "interpret/text_run.h"
+#include "display/frmPalaceAnalysis.h"
 
-class QWidget;
-class frmDisplay;
 class frmMain;
 class frmMdi;
-enum class AnalysisKind;
 
 class Application : public QObject {
     Q_OBJECT
@@ -22,10 +18,10 @@ class Application : public QObject {
     Application();
     ~Application() override;
 
-    // Shows the input form, filled in from a chart file if one is given.
+    // Shows the input form, filled in from the chart file if there is one.
     void start(const QString& chartFile = {});
 
-    // Closes every open form, one after another, and ends the program.
+    // Hides every window and ends the event loop.
     static void unloadAll();
 
   private:
@@ -34,7 +30,6 @@ class Application : public QObject {
     bool openChart(const QString& path);
     void castChart(const BirthEntry& entry);
     void showChart(const BirthEntry& entry);
-    void connectChart(frmDisplay* display);
     void openPalace(int cell);
     void openAllPalaces();
     void openAnalysis(AnalysisKind kind, const std::vector<TextRun>& runs);
@@ -44,5 +39,5 @@ class Application : public QObject {
     ChartModel chart_;
     std::unique_ptr<frmMain> input_;
     std::unique_ptr<frmMdi> frame_;  // while a chart is shown
-    AnalysisView analysisView_;      // as the last analysis was left
+    AnalysisView analysisView_;      // of the last analysis
 };

@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "display/frmDisplay.h"
 #include "help/banner_link.h"
 #include "style/controls.h"
 #include "style/look.h"
@@ -22,15 +23,14 @@ constexpr int buttonWidth = 1215;  // twips
 constexpr QSize buttonSize{pixels(buttonWidth), pixels(390)};
 constexpr int stripMargin = pixels(75);
 
-// Room for the strip in two rows, and for as much of a chart as can be read while it scrolls.
+// Enough for the strip in two rows above a chart that scrolls.
 constexpr QSize leastSize{400, 360};
 
-constexpr int longestTitle = 100;  // characters of a name, which may be a very long one
+constexpr int longestTitle = 100;  // characters of the name
 
 }  // namespace
 
-frmMdi::frmMdi(QWidget* chart, const QString& person, std::function<QSize(QSize)> fit)
-    : fit_(std::move(fit)) {
+frmMdi::frmMdi(frmDisplay* chart, const QString& person) : chart_(chart) {
     named(this, "frmMdi");
     setWindowTitle(look::productName() + QStringLiteral(" - ") + person.left(longestTitle));
     createStrip();
@@ -43,7 +43,7 @@ frmMdi::frmMdi(QWidget* chart, const QString& person, std::function<QSize(QSize)
     rows->addWidget(Picture2);
     rows->addWidget(area_);
     setCentralWidget(content);
-    hostChart(chart);
+    hostChart();
     followPalette();
     MDIForm_Load();
 }
@@ -63,7 +63,7 @@ void frmMdi::createStrip() {
     cmdShowAll = newButton("cmdShowAll", "&Show All", this, &frmMdi::showAllRequested, Picture2);
     cmdBack = newButton("cmdBack", "&Back", this, &frmMdi::backRequested, Picture2);
     cmdMdiExit = newButton("cmdMdiExit", "&Exit", this, &frmMdi::cmdMdiExit_Click, Picture2);
-    // Their places fix their width, so their text keeps its size whatever the desktop's font is.
+    // The width is fixed in twips, so the font size does not follow the desktop's.
     for (QPushButton* button : {cmdSavePicture, cmdShowAll, cmdBack, cmdMdiExit}) {
         QFont small = button->font();
         small.setPixelSize(11);
@@ -71,26 +71,30 @@ void frmMdi::createStrip() {
     }
 }
 
-void frmMdi::hostChart(QWidget* chart) {
-    chartWindow_ = area_->addSubWindow(chart, Qt::SubWindow | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
-                                                  Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint);
+void frmMdi::hostChart() {
+    chartWindow_ = area_->addSubWindow(chart_, Qt::SubWindow | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
+                                                   Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint);
     chartWindow_->setAttribute(Qt::WA_DeleteOnClose, false);
     chartWindow_->setSystemMenu(nullptr);  // its Ctrl+W and Ctrl+F4 would end the program
     chartWindow_->setFocusPolicy(Qt::NoFocus);
     chartWindow_->setWindowIcon(windowIcon());
     chartWindow_->installEventFilter(this);
     area_->viewport()->installEventFilter(this);
-    // A shortcut of the chart window works only while the focus is in that window; as the frame's own,
-    // always.
-    for (QAction* entry : chart->findChildren<QAction*>()) {
+    // As actions of the frame, shortcuts of the chart window work wherever the focus is.
+    for (QAction* entry : chart_->findChildren<QAction*>()) {
         if (!entry->shortcut().isEmpty()) addAction(entry);
     }
+    connect(chart_, &frmDisplay::showAllRequested, this, &frmMdi::showAllRequested);
+    connect(chart_, &frmDisplay::savePictureRequested, this, &frmMdi::savePictureRequested);
+    connect(chart_, &frmDisplay::backRequested, this, &frmMdi::backRequested);
+    connect(chart_, &frmDisplay::exitRequested, this, &frmMdi::cmdMdiExit_Click);
+    connect(chart_, &frmDisplay::tabbedOut, this, &frmMdi::focusStrip);
     // Queued, because the chart window takes the focus when it is shown.
     QMetaObject::invokeMethod(cmdShowAll, qOverload<>(&QWidget::setFocus), Qt::QueuedConnection);
 }
 
-// The size that the maximised frame will have comes first, so that the chart is laid out and painted once;
-// and where no window manager maximises, it stays.
+// The geometry is set to that of a maximised frame first, so that the chart is laid out and painted only
+// once. Without a window manager, the frame keeps it.
 void frmMdi::showInPlaceOf(const QWidget& form) {
     const QRect room = form.screen()->availableGeometry();
     setMinimumSize(leastSize.boundedTo(room.size() - QSize{16, 40}));
@@ -99,9 +103,8 @@ void frmMdi::showInPlaceOf(const QWidget& form) {
     showMaximized();
 }
 
-// Restored for the first time, the frame would take the size of the screen, which it had before it was
-// maximised. An inactive frame is left alone: while it is shown, some window managers restore it for a
-// moment.
+// The first restore would bring back the geometry that showInPlaceOf() has set, which fills the screen. An
+// inactive frame is left alone: some window managers restore a frame for a moment while they show it.
 void frmMdi::changeEvent(QEvent* event) {
     QMainWindow::changeEvent(event);
     if (event->type() == QEvent::PaletteChange) followPalette();
@@ -128,30 +131,30 @@ bool frmMdi::fillsScreen() const {
     return isMaximized() || isFullScreen() || (placesAreKnown() && frameGeometry().contains(room));
 }
 
-// How far the frame's inside is from the screen's left edge. Where places are not known, the frame counts as
-// centred on the screen.
+// The distance from the screen's left edge to the frame's client area. Where positions are not known, the
+// frame is taken as centred on the screen.
 int frmMdi::leftOnScreen() const {
     const QRect place = screen()->geometry();
     return placesAreKnown() ? geometry().x() - place.x() : (place.width() - width()) / 2;
 }
 
-// The edge that the buttons' places count from, in the frame: the screen's where the maximised frame reaches
-// it, else the frame's own.
+// The edge from which the buttons are placed, in the frame's coordinates: the screen's where the frame fills
+// the screen up to it, else the frame's own.
 int frmMdi::rightEdge() const {
     const QRect place = screen()->geometry();
     const bool reaches = placesAreKnown() && fillsScreen() && frameGeometry().right() >= place.right();
     return reaches ? place.width() - leftOnScreen() : width();
 }
 
-// The left edge, in the frame, of something of that width: centred on the screen while the frame fills it,
-// else in the frame; but always inside the frame.
+// The left edge, in the frame's coordinates, for something of that width: centred on the screen while the
+// frame fills it, else in the frame, and never outside the frame.
 int frmMdi::centredLeft(int width) const {
     const int middle = fillsScreen() ? screen()->geometry().width() / 2 - leftOnScreen() : this->width() / 2;
     return std::clamp(middle - width / 2, 0, std::max(0, this->width() - width));
 }
 
-// The buttons' distances from the edge are in twips. Intentional: the middle gap is wider than the others.
-// Where the banner would meet the buttons, these move down to a row of their own.
+// Distances from the edge are in twips. Intentional: the middle gap is wider than the others. Where the
+// banner would overlap the buttons, they move to a second row.
 void frmMdi::placeStrip() {
     const auto leftAt = [edge = rightEdge()](int distance) { return edge - pixels(buttonWidth + distance); };
     const int bannerLeft = centredLeft(lblBanner->width());
@@ -171,12 +174,13 @@ void frmMdi::placeChart() {
     const QSize room = area_->viewport()->size();
     const QMargins border = chartWindow_->contentsMargins();
     const QSize decoration{border.left() + border.right(), border.top() + border.bottom()};
-    const QSize size = fit_(room - decoration) + decoration;
+    const QSize size = chart_->fitInto(room - decoration) + decoration;
     chartWindow_->setFixedSize(size);
     chartWindow_->move(centredLeft(size.width()), std::max(0, (room.height() - size.height()) / 2));
 }
 
-// Where the screen's edges count, they move in the frame. Before the frame is visible, its area has no size.
+// Places that count from the screen's edges change when the frame moves. Before the frame is visible, its
+// area has no size.
 void frmMdi::moveEvent(QMoveEvent* event) {
     QMainWindow::moveEvent(event);
     if (!isVisible()) return;
@@ -187,12 +191,11 @@ void frmMdi::moveEvent(QMoveEvent* event) {
 void frmMdi::resizeEvent(QResizeEvent* event) {
     QMainWindow::resizeEvent(event);
     placeStrip();
-    // At once, or the chart is painted twice where the strip changes its height.
+    // Not left to the event loop: the chart would be painted twice when the strip changes its height.
     centralWidget()->layout()->activate();
 }
 
-// Closing the chart window by its title bar is Exit, as closing the frame is. A double click on its icon is
-// not.
+// Closing the chart window by its title bar is Exit; a double click on its icon is not.
 bool frmMdi::eventFilter(QObject* watched, QEvent* event) {
     if (watched == chartWindow_ && event->type() == QEvent::MouseButtonDblClick) return true;
     if (watched == chartWindow_ && event->type() == QEvent::Close) {
@@ -200,14 +203,14 @@ bool frmMdi::eventFilter(QObject* watched, QEvent* event) {
         cmdMdiExit_Click();
         return true;
     }
-    // At once, before the frame is painted at its new size, or all is painted twice.
+    // Before the frame is painted at its new size, so that the chart is painted only once.
     if (watched == area_->viewport() && event->type() == QEvent::Resize) placeChart();
     return QMainWindow::eventFilter(watched, event);
 }
 
-// The access keys of the chart window's menus work only while the focus is in that window.
+// The access keys of the chart window's menus would work only while the focus is in that window.
 void frmMdi::keyPressEvent(QKeyEvent* event) {
-    if (event->modifiers() == Qt::AltModifier) emit menuKeyPressed(event->key());
+    if (event->modifiers() == Qt::AltModifier) chart_->openMenu(event->key());
     QMainWindow::keyPressEvent(event);
 }
 

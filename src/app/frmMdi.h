@@ -2,35 +2,30 @@
 #pragma once
 
 #include <QMainWindow>
-#include <functional>
 
 class BannerLink;
 class QMdiArea;
 class QMdiSubWindow;
 class QPushButton;
+class frmDisplay;
 
 class frmMdi : public QMainWindow {
     Q_OBJECT
   public:
-    // Takes ownership of the chart window. The person's name is for the title. `fit` is called with the room
-    // that there is, in pixels, and returns the size that the chart window takes.
-    frmMdi(QWidget* chart, const QString& person, std::function<QSize(QSize)> fit);
+    // Takes ownership of the chart window and shows the person's name in the title.
+    frmMdi(frmDisplay* chart, const QString& person);
 
-    // Shows the frame maximised on the screen of the form that it takes the place of.
+    // Shows the frame maximised on the screen of the form that it replaces.
     void showInPlaceOf(const QWidget& form);
-
-    // Moves the focus to the strip's first control, or to its last.
-    void focusStrip(bool first);
 
   public slots:
     void cmdMdiExit_Click();
 
-  signals:
+  signals:  // from the strip or from the chart window's menu
     void savePictureRequested();
     void showAllRequested();
     void backRequested();
     void closed();
-    void menuKeyPressed(int key);  // with Alt, and no access key of the frame's own
 
   protected:
     void changeEvent(QEvent* event) override;
@@ -43,8 +38,9 @@ class frmMdi : public QMainWindow {
   private:
     void MDIForm_Load();
     void createStrip();
-    void hostChart(QWidget* chart);
+    void hostChart();
     void followPalette();
+    void focusStrip(bool first);
     void placeStrip();
     void placeChart();
     bool fillsScreen() const;
@@ -52,6 +48,7 @@ class frmMdi : public QMainWindow {
     int rightEdge() const;
     int centredLeft(int width) const;
 
+    frmDisplay* chart_;
     QWidget* Picture2;
     BannerLink* lblBanner;
     QPushButton* cmdSavePicture;
@@ -59,7 +56,6 @@ class frmMdi : public QMainWindow {
     QPushButton* cmdBack;
     QPushButton* cmdMdiExit;
     QMdiArea* area_;
-    QMdiSubWindow* chartWindow_ = nullptr;
-    std::function<QSize(QSize)> fit_;
-    bool wasRestored_ = false;  // from its maximised state
+    QMdiSubWindow* chartWindow_;
+    bool wasRestored_ = false;  // since the frame was shown maximised
 };

@@ -11,8 +11,7 @@
 
 namespace {
 
-// The chart file that the command line names, if it names one. Ends the program where it is to tell
-// something, or where it holds what is not known.
+// The chart file on the command line, or an empty path. Ends the program after --help, --version or an error.
 QString chartFileOf(const QApplication& toolkit) {
     QCommandLineParser parser;
     parser.setApplicationDescription(

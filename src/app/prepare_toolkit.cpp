@@ -30,7 +30,7 @@ void prepareToolkit() {
     QApplication::setDesktopFileName(QStringLiteral("palace-lantern"));
     QApplication::setQuitOnLastWindowClosed(false);
     QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
-    // The style would cache a picture of each scroll bar, and every text has one of its own length.
+    // Else the style caches a pixmap of every scroll bar, which differs with the length of the text.
     QPixmapCache::setCacheLimit(0);
     QApplication::setStyle(new DesktopStyle);
     useDesktopFont();

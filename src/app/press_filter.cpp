@@ -28,7 +28,7 @@ bool PressFilter::discards(QObject* receiver, QEvent* event) {
         case QEvent::KeyPress:
             return isRepeated(*static_cast<QKeyEvent*>(event));
         case QEvent::MouseButtonPress:
-            discardsClick_ = isSecondHalf(*static_cast<QMouseEvent*>(event), window);
+            discardsClick_ = isSecondClick(*static_cast<QMouseEvent*>(event), window);
             return discardsClick_;
         case QEvent::MouseButtonDblClick:
             return discardsClick_;
@@ -37,10 +37,10 @@ bool PressFilter::discards(QObject* receiver, QEvent* event) {
     }
 }
 
-// Qt 6.8 still: under X11, where auto-repeat comes as a release and a press at once, isAutoRepeat() is often
-// false.
+// Qt 6.8 still: isAutoRepeat() is often false under X11, which sends auto-repeat as a release and a press at
+// the same time.
 bool PressFilter::isRepeated(const QKeyEvent& key) const {
-    constexpr quint64 atOnce = 2;  // milliseconds; no hand is as quick
+    constexpr quint64 atOnce = 2;  // milliseconds
     const int code = key.key();
     const bool enter = code == Qt::Key_Return || code == Qt::Key_Enter;
     const bool space = code == Qt::Key_Space && !entersText(QApplication::focusWidget());
@@ -49,9 +49,9 @@ bool PressFilter::isRepeated(const QKeyEvent& key) const {
     return (enter || space) && repeated;
 }
 
-// Where the places of windows are not known, those of a popup and of the window below it still are, each
-// relative to the other; of other windows the time alone decides.
-bool PressFilter::isSecondHalf(const QMouseEvent& click, QWindow* window) {
+// Where window positions are not known, they still are for a popup relative to its parent. Between other
+// windows only the time counts then.
+bool PressFilter::isSecondClick(const QMouseEvent& click, QWindow* window) {
     const QWindow* before = std::exchange(clickedWindow_, window);
     const quint64 time = click.timestamp() - std::exchange(clicked_, click.timestamp());
     const QPointF way = click.globalPosition() - std::exchange(clickedPlace_, click.globalPosition());

@@ -9,8 +9,8 @@
 
 namespace {
 
-// Folders of the user alone, in which nobody else can hold the name. QStandardPaths gives a runtime folder
-// only where this user owns it.
+// In folders of this user alone, so that nobody else can hold the lock. QStandardPaths only returns a runtime
+// folder that the user owns.
 QStringList lockPaths() {
     QStringList paths;
     for (const auto place : {QStandardPaths::RuntimeLocation, QStandardPaths::AppLocalDataLocation}) {

@@ -1,4 +1,4 @@
-// The rules of the start: one running program for each user, and none without the picture converter.
+// The rules at the start: one instance for each user, and none without the picture converter.
 #pragma once
 
 #include <QLockFile>
@@ -6,11 +6,10 @@
 
 class SingleInstance {
   public:
-    // Tries to take the lock. One that a killed program left behind does not count.
+    // Tries to take the lock; a stale one, left by a killed process, is replaced.
     SingleInstance();
 
-    // Whether another program of this user holds the lock. Where nothing can be locked at all, the answer is
-    // no.
+    // Whether another instance of this user holds the lock; false where no lock file can be created.
     bool anotherIsRunning() const { return anotherIsRunning_; }
 
   private:
@@ -18,8 +17,8 @@ class SingleInstance {
     bool anotherIsRunning_ = false;
 };
 
-// The picture converter in the application's own folder.
+// The path of the picture converter, in the folder of the program.
 QString converterPath();
 
-// Whether a file of that name is there, whatever is in it; if not, shows a message.
+// Whether the picture converter's file exists, whatever is in it; if not, shows a message.
 bool requiredFileIsPresent();

@@ -10,7 +10,7 @@ using lunar_table::Begin;
 using lunar_table::Gap;
 using lunar_table::Row;
 
-// The number in force on the date, or 0 where the date yields none.
+// The number of the date, or 0 if it has none.
 std::int16_t numberOn(const Row& row, int month, int day) {
     const auto holdsDate = [=](const Gap& gap) {
         return gap.month == month && gap.first <= day && day <= gap.last;

@@ -5,10 +5,9 @@
 
 #include "calendar/picked_date.h"
 
-// The lunar month of the last chart, 1..12; 0 until a look-up has found a number. One value for the whole run
-// of the application and never reset: a date without a number leaves it as the chart before left it.
+// The lunar month of the last chart, 1..12; 0 until a date had a number. Intentional: it is global and never
+// reset, so a date without a number gets that of the previous chart.
 inline std::int16_t LunarMonth = 0;
 
-// Looks up the date (days that the month does not have included) and writes its number to LunarMonth, or
-// leaves LunarMonth alone where the date yields none. Reports nothing.
+// Writes the number of the date to LunarMonth, or leaves that unchanged. The date need not exist.
 void FindLunarMonth(const PickedDate& date);

@@ -1,5 +1,5 @@
-// The lunar month table: the Chinese calendar reckoned in China's civil time, one row a solar year, each row
-// the dates on which a lunar month number begins. A leap month carries the number of the month before it.
+// The lunar month table: the Chinese calendar in China's civil time. Each row is a solar year and lists the
+// dates on which a lunar month number begins. A leap month has the number of the month before it.
 #pragma once
 
 #include <array>
@@ -19,7 +19,7 @@ struct Begin {
     std::int8_t number;
 };
 
-// The days first..last of this solar month yield no number. A first day of 0 marks an unused place.
+// The days first..last of this solar month have no number. A first day of 0 marks an unused place.
 struct Gap {
     std::int8_t first;
     std::int8_t last;
@@ -32,9 +32,9 @@ struct Row {
     std::array<Gap, 2> gaps;
 };
 
-// Intentional: the table departs from the usual calendar from 23 March to 20 May 1993 (1 and 2), from 5
+// Intentional: the table differs from the usual calendar from 23 March to 20 May 1993 (1 and 2), from 5
 // October to 2 December 1994 (5 and 6), and in every gap of the last column. Days that a month does not have
-// carry the number of its last real day, but those of February 1976 and 1995 the number of 1 March.
+// get the number of its last real day, but those of February 1976 and 1995 the number of 1 March.
 // clang-format off
 inline constexpr std::array<Row, yearCount> rows{{
     {1970, {{{1, Jan, 11}, {8, Jan, 12}, {6, Feb, 1}, {8, Mar, 2}, {6, Apr, 3}, {5, May, 4}, {4, Jun, 5}, {3, Jul, 6}, {2, Aug, 7}, {1, Sep, 8}, {30, Sep, 9}, {30, Oct, 10}, {29, Nov, 11}, {28, Dec, 12}}}, {}},

@@ -1,5 +1,4 @@
-// A date as a person picks it from the three date lists. Dates travel through the program as list positions;
-// the texts and numbers follow from the positions.
+// A date as it is picked from the three date lists, held as list positions.
 #pragma once
 
 #include <array>
@@ -25,12 +24,11 @@ struct PickedDate {
     constexpr int month() const { return monthPosition + 1; }        // 1..12
     constexpr int year() const { return firstYear + yearPosition; }  // 1970..2012
 
-    // The English month name.
     constexpr std::string_view monthText() const {
         return monthNames.at(static_cast<std::size_t>(monthPosition));
     }
 
-    // Whether the month has the day: the lists also let a person pick 30 February.
+    // Whether the month has the day: 30 February can be picked, too.
     constexpr bool exists() const { return (std::chrono::year{year()} / month() / day()).ok(); }
 
     friend constexpr bool operator==(const PickedDate&, const PickedDate&) = default;

@@ -1,4 +1,4 @@
-// What the input form hands over: the name as typed and what is picked in the five lists.
+// The birth data of the input form: the name as typed and the positions of the five lists.
 #pragma once
 
 #include <string>

@@ -1,5 +1,5 @@
-// The text of one label of the chart. No label shows more than a few characters, so they are stored in the
-// object itself: casting a chart allocates no memory.
+// The text of one label of the chart. Its few characters are stored in the object itself, so that casting a
+// chart allocates no memory.
 #pragma once
 
 #include <array>

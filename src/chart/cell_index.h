@@ -1,5 +1,5 @@
-// The index of a palace cell on the square, 0..11. The index fixes the cell's earthly branch, from "Yin" at 0
-// to "Chou" at 11, and its only arithmetic is the step round the square.
+// The index of a palace cell on the square, 0..11, from the branch "Yin" to the branch "Chou". Its only
+// arithmetic is the step round the square.
 #pragma once
 
 #include <array>
@@ -11,7 +11,7 @@ class CellIndex {
   public:
     constexpr CellIndex() = default;
 
-    // Any whole number of steps round the square from "Yin", forwards or, where negative, backwards.
+    // Any number of steps round the square from "Yin"; negative ones go backwards.
     explicit constexpr CellIndex(int stepsFromYin)
         : value_((stepsFromYin % cellCount + cellCount) % cellCount) {}
 

@@ -19,7 +19,7 @@ inline constexpr std::array<Caption, 12> palaceNames{"Life Palace", "Siblings", 
                                                      "Wealth",      "Health",   "Travel",   "Friends",
                                                      "Career",      "Property", "Fortune",  "Parents"};
 
-// The stars, in the order in which a cell is told. The chart records the cell of each.
+// The stars, in the order in which the accessible name of a cell lists them.
 // clang-format off
 enum class Star : std::uint8_t {
     ZiWei, TianJi, TaiYang, WuQu, TianTong, LianZhen,                     // the Zi Wei group
@@ -49,7 +49,7 @@ struct ChartCell {
     bool lblHuaLu = false, lblHuaQuan = false, lblHuake = false, lblHuaJi = false;
     bool lblTianFutwo = false, lblTianGuan = false;
 
-    // Whether the star is shown in this cell, be it from this chart or from one before.
+    // Whether the star is shown in this cell. It may be left from a previous chart.
     bool holds(Star star) const;
 };
 // clang-format on
@@ -68,8 +68,8 @@ struct StarRow {
     CellField field;
 };
 
-// The table of stars: all that is told of a star's name, text and label stands here. "Tian Yue" and "Tian Fu"
-// are the texts of two different stars each. Intentional: "Hua ke" has a small k.
+// The table of stars. "Tian Yue" and "Tian Fu" are the texts of two different stars each. Intentional: "Hua
+// ke" has a small k.
 // clang-format off
 #define CAPTION(star, text, label) {Star::star, #star, {#label, &ChartCell::label, nullptr, text}}
 #define FLAG(star, text, label) {Star::star, #star, {#label, nullptr, &ChartCell::label, text}}
@@ -122,7 +122,7 @@ inline constexpr std::array<StarRow, starCount> starTable{{
 #undef CAPTION
 #undef FLAG
 
-// Whether the name is the text without its blanks; the second star of the same text also has a "Two".
+// Whether the name is the text without its blanks; the second star of the same text has "Two" appended.
 consteval bool isNameFor(std::string_view text, std::string_view name) {
     for (const char letter : text) {
         if (letter == ' ') continue;
@@ -132,7 +132,7 @@ consteval bool isNameFor(std::string_view text, std::string_view name) {
     return name.empty() || name == "Two" || name == "two";
 }
 
-// Compares text and label with the star's own name. The major stars share labels, and Wen Qu's is lblWenQi.
+// Whether text and label match the star's name. The major stars share labels, and Wen Qu's is lblWenQi.
 consteval bool starTableFits() {
     for (std::size_t i = 0; i < starCount; ++i) {
         const auto& [star, name, field] = starTable[i];
@@ -150,7 +150,7 @@ static_assert(starTableFits(), "the stars in their order, each with its own text
 
 constexpr const CellField& fieldOf(Star star) { return starTable[static_cast<std::size_t>(star)].field; }
 
-// Every field of a cell once: three that hold no star, and those of the stars.
+// Each field of a cell once: the three without stars, then those of starTable.
 inline constexpr auto cellFields = [] {
     std::array<CellField, 35> fields{{{"lblPalace", &ChartCell::lblPalace, nullptr, ""},
                                       {"lblPalaceSteam", &ChartCell::lblPalaceSteam, nullptr, ""},
@@ -162,8 +162,7 @@ inline constexpr auto cellFields = [] {
     return fields;
 }();
 
-// What a person entered, kept as entered: the midnight rule does not touch it. The chart file is written from
-// it.
+// The birth data as entered, without the midnight rule. It is what the chart file holds.
 struct ChartInput {
     std::u16string name;  // without blanks at either end
     std::int16_t year = 0;
@@ -173,7 +172,7 @@ struct ChartInput {
 
 struct ChartModel {
     ChartInput input;
-    std::int16_t lunarMonth = 0;  // 1..12, 0 where no look-up has found a number yet
+    std::int16_t lunarMonth = 0;  // 1..12; 0 if no date had a number yet
     std::int16_t doubleHour = 0;  // 1 = "Zi" .. 12 = "Hai"
     std::int16_t yearDigit = 0;   // the last decimal digit of the year
     Caption yearStem;
@@ -188,17 +187,16 @@ struct ChartModel {
 
     ChartModel() { loadCells(); }
 
-    // Makes the cells those of a new chart window: no captions but the branches, no flags.
+    // Resets the cells: no captions but the branches, no flags.
     void loadCells();
 
-    // Empties every caption of every cell but the branches. Flags and branches stay as they are.
+    // Clears every caption but the branches.
     void clearCaptions();
 
     ChartCell& cell(CellIndex index) { return cells[index.index()]; }
     const ChartCell& cell(CellIndex index) const { return cells[index.index()]; }
     CellIndex cellOf(Star star) const { return starCells[static_cast<std::size_t>(star)]; }
 
-    // Shows the star in the cell and records the cell: sets its flag or writes its text, Zi Wei's above the
-    // branch.
+    // Sets the star's flag or writes its text in the cell, Zi Wei's above the branch, and records the cell.
     void place(Star star, CellIndex where);
 };

@@ -1,4 +1,4 @@
-// The driver: birth data in, chart out.
+// Casts a chart of the birth data.
 #pragma once
 
 #include <optional>
@@ -6,10 +6,10 @@
 #include "chart/birth_entry.h"
 #include "chart/chart_model.h"
 
-// Casts the chart of an entry that has passed the input check and returns the date for which it was cast: a
-// birth at exactly 00:00 counts for the day after. Returns nothing where there is no day after (31 December
-// 1999 and 2012); the chart must not be shown then.
+// Casts the chart of an entry that has passed the input check. Returns the date of the chart: a birth at
+// exactly 00:00 counts for the day after. Returns nothing if there is no day after (see dayAfter()); the
+// chart must then not be shown.
 //
-// Flags and marked branches of the chart before stay until the caller loads the cells anew. Even then two
-// things carry over: Zi Wei's branch and cell on a 31st, and LunarMonth on a date that yields no number.
+// Flags and marked branches of the previous chart stay until the caller calls loadCells(). Two values stay
+// even then: Zi Wei's branch and cell for a birth on a 31st, and LunarMonth for a date without a number.
 [[nodiscard]] std::optional<PickedDate> generateChart(const BirthEntry& entry, ChartModel& chart);

@@ -5,8 +5,8 @@
 
 #include "calendar/picked_date.h"
 
-// The day after a date that exists, or nothing after the last day of the lists, 31 December 2012.
-// Intentional: nothing after 31 December 1999 either.
+// The day after a date that exists; nothing after 31 December 2012, where the lists end. Intentional: nothing
+// after 31 December 1999 either.
 constexpr std::optional<PickedDate> dayAfter(PickedDate date) {
     ++date.dayPosition;
     if (date.exists()) return date;

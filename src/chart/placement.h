@@ -1,4 +1,4 @@
-// The placement rules, one file each, in the order in which the driver follows them: a rule counts on what
+// The placement rules, one file each, in the order in which generateChart() calls them: a rule needs what
 // those before it have written into the chart.
 #pragma once
 
@@ -13,7 +13,7 @@ void placeElement(ChartModel& chart);
 
 // zi_wei.cpp: by the element and the day's list position (0..30, the solar day as entered). Zi Wei goes into
 // the cell whose branch text is exactly the branch that was found. On a 31st, or where that cell is already
-// marked, branch and cell stay as the chart before left them.
+// marked, branch and cell are those of the previous chart.
 void placeZiWei(ChartModel& chart, int dayPosition);
 
 // major_stars.cpp: the rest of the Zi Wei group, counted backwards from Zi Wei, and the Tian Fu group,

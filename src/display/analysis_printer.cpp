@@ -23,10 +23,8 @@ constexpr QMarginsF paperMargins{20, 18, 20, 18};  // millimetres
 
 bool isEmpty(const QTextBlock& block) { return block.text().trimmed().isEmpty(); }
 
-// The line that tells of the stars ends what is above it, and never begins a page.
-bool endsWhatIsAbove(const QTextBlock& block) {
-    return block.text().trimmed().endsWith(QStringLiteral(":-"));
-}
+// The details line, which belongs to the paragraph above it and never begins a page.
+bool isDetailsLine(const QTextBlock& block) { return block.text().trimmed().endsWith(QStringLiteral(":-")); }
 
 QTextBlock previousWithText(QTextBlock block) {
     do {
@@ -39,28 +37,28 @@ QRectF placeOf(const QTextBlock& block) {
     return block.document()->documentLayout()->blockBoundingRect(block);
 }
 
-bool isTorn(double top, double bottom, double pageHeight) {
+bool isSplit(double top, double bottom, double pageHeight) {
     const bool fitsOnPage = bottom - top < pageHeight;
     return fitsOnPage && std::floor(top / pageHeight) != std::floor((bottom - 1) / pageHeight);
 }
 
-// The toolkit breaks pages between any two lines. A paragraph that would be torn, or parted from the line
-// that ends it, begins the next page instead; what comes after moves along.
+// QTextDocument breaks pages between any two lines. A paragraph that would be split, or separated from its
+// details line, begins the next page instead.
 void keepParagraphsWhole(QTextDocument& document) {
     const double pageHeight = document.pageSize().height();
     for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
         if (isEmpty(block)) continue;
         const QTextBlock before = previousWithText(block);
-        const QTextBlock first = before.isValid() && endsWhatIsAbove(block) ? before : block;
-        if (!isTorn(placeOf(first).top(), placeOf(block).bottom(), pageHeight)) continue;
+        const QTextBlock first = before.isValid() && isDetailsLine(block) ? before : block;
+        if (!isSplit(placeOf(first).top(), placeOf(block).bottom(), pageHeight)) continue;
         QTextBlockFormat format = first.blockFormat();
         format.setPageBreakPolicy(QTextFormat::PageBreak_AlwaysBefore);
         QTextCursor{first}.setBlockFormat(format);
-        document.setPageSize(document.pageSize());  // lays the whole text out again, to the very end
+        document.setPageSize(document.pageSize());  // lays out the whole text again
     }
 }
 
-// Blank lines at the end make no page.
+// Empty lines at the end are not printed.
 int pagesWithText(const QTextDocument& document) {
     QTextBlock last = document.lastBlock();
     if (isEmpty(last)) last = previousWithText(last);
@@ -80,8 +78,8 @@ std::unique_ptr<QTextDocument> printedPart(const std::vector<TextRun>& runs, int
     return part;
 }
 
-// There is no printing by page numbers or in reverse order, so the dialog must not offer it. Qt 6.8 still:
-// QPrintDialog shows these controls whatever its options say. Inside a hidden widget they stay invisible.
+// Page ranges and reverse order are not supported. Qt 6.8 still: QPrintDialog shows their controls whatever
+// its options are. As children of a hidden widget they stay hidden.
 void hidePageNumbers(QPrintDialog& dialog) {
     const auto* options = dialog.findChild<QWidget*>(QStringLiteral("copiesTab"));
     if (options == nullptr) return;
@@ -93,13 +91,12 @@ void hidePageNumbers(QPrintDialog& dialog) {
     }
 }
 
-// A printer that is chosen in the dialog brings margins of its own. They count only where a person changed
-// them.
-void useDecentMargins(QPrinter& printer) {
-    QPrinter untouched{QPrinter::HighResolution};
-    untouched.setPrinterName(printer.printerName());
+// A printer chosen in the dialog sets its default margins; only margins that a person has changed are kept.
+void replaceDefaultMargins(QPrinter& printer) {
+    QPrinter defaults{QPrinter::HighResolution};
+    defaults.setPrinterName(printer.printerName());
     const bool changed = printer.pageLayout().margins(QPageLayout::Millimeter) !=
-                         untouched.pageLayout().margins(QPageLayout::Millimeter);
+                         defaults.pageLayout().margins(QPageLayout::Millimeter);
     if (!changed) printer.setPageMargins(paperMargins, QPageLayout::Millimeter);
 }
 
@@ -123,7 +120,7 @@ void printOnPaper(const QTextDocument& text, QPrinter& printer) {
     if (!painter.begin(&printer)) return;
     for (int number = 0; number < pagesWithText(*paper); ++number) {
         if (number > 0 && !printer.newPage()) return;
-        // One dot less than the page, or a line at the top of the next one would count as part of it.
+        // One pixel less than the page, which would else include a line at the top of the next one.
         const QRectF view{0, number * page.height(), page.width(), page.height() - 1};
         painter.save();
         painter.translate(0, -view.top());
@@ -142,11 +139,11 @@ void printAnalysis(const std::vector<TextRun>& runs, int start, int end, QWidget
     dialog.setOption(QAbstractPrintDialog::PrintCurrentPage, false);
     dialog.setOption(QAbstractPrintDialog::PrintSelection, selected);
     dialog.setPrintRange(selected ? QAbstractPrintDialog::Selection : QAbstractPrintDialog::AllPages);
-    // What is selected is what is printed, so the dialog must not promise the whole beside it.
+    // With a selection, only the selection can be printed.
     if (auto* all = dialog.findChild<QRadioButton*>(QStringLiteral("printAll"))) all->setEnabled(!selected);
     hidePageNumbers(dialog);
     proposeFile(dialog, printer.docName());
     if (dialog.exec() != QDialog::Accepted) return;
-    useDecentMargins(printer);
+    replaceDefaultMargins(printer);
     printOnPaper(*printedPart(runs, start, end), printer);
 }

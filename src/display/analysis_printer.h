@@ -1,4 +1,4 @@
-// Puts an analysis on paper.
+// Printing of an analysis.
 #pragma once
 
 #include <QTextDocument>
@@ -9,10 +9,9 @@
 class QPrinter;
 class QWidget;
 
-// Asks for a printer and prints the characters from `start` up to `end`, or the whole text where these are
-// the same, in the size that the runs have. A cancel and every error are passed over in silence.
+// Opens the print dialog and prints the characters from `start` up to `end`, or all if these are equal, in
+// the runs' own font sizes. Errors are not reported.
 void printAnalysis(const std::vector<TextRun>& runs, int start, int end, QWidget* parent);
 
-// Prints the text with decent margins; a paragraph that fits on a page is not torn, and a line that ends what
-// is above it stays there.
+// Prints the text without page breaks inside a paragraph that fits on a page, or before a details line.
 void printOnPaper(const QTextDocument& text, QPrinter& printer);

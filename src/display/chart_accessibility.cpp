@@ -9,8 +9,7 @@
 
 namespace {
 
-// The square as a screen reader walks it: the centre block and the covers, which speak for their cells, but
-// not the frames with the bare labels.
+// The interface of the square: its children are the centre block and the covers, but not the cells' labels.
 class SquareInterface : public QAccessibleWidget {
   public:
     explicit SquareInterface(QWidget* square) : QAccessibleWidget(square, QAccessible::Grouping) {}
@@ -42,7 +41,7 @@ QAccessibleInterface* createInterface(const QString&, QObject* object) {
     return square == nullptr ? nullptr : new SquareInterface{square};
 }
 
-// The caption without what may stand above it.
+// The caption without the element or star above it.
 QString lastLine(const Caption& caption) { return latin(caption.text()).section(QLatin1Char('\n'), -1); }
 
 QStringList starsIn(const ChartCell& cell) {

@@ -7,20 +7,18 @@ namespace {
 
 constexpr int largestMinorPixels = 60;
 constexpr int smallestMinorPixels = 6;
-constexpr int scrolledMinorPixels = 7;  // a chart that scrolls anyway need not be at its smallest
-constexpr double smallestLegibleDots = 10;
+constexpr int scrolledMinorPixels = 7;      // a chart that scrolls need not be at its smallest
+constexpr double smallestLegibleDots = 10;  // in device pixels
 
 }  // namespace
 
-CellIndex neighbour(CellIndex cell, int columnStep, int rowStep) {
-    GridPlace place = gridPlace(cell);
-    for (;;) {
-        place = {place.column + columnStep, place.row + rowStep};
-        if (place.column < 0 || place.column > 3 || place.row < 0 || place.row > 3) return cell;
-        for (const CellIndex other : allCells) {
-            if (gridPlace(other) == place) return other;
-        }
+CellIndex neighbour(CellIndex cell, QPoint step) {
+    constexpr QRect square{0, 0, 4, 4};
+    for (QPoint place = gridPlace(cell) + step; square.contains(place); place += step) {
+        const auto* other = std::ranges::find(allCells, place, gridPlace);
+        if (other != allCells.end()) return *other;
     }
+    return cell;
 }
 
 ChartScale ChartScale::largestFor(const QSize& room, double devicePixelRatio) {
@@ -42,10 +40,9 @@ int ChartScale::fontPixels(int pixelSize) const {
 }
 
 QRect ChartScale::cellFrame(CellIndex cell) const {
-    const GridPlace place = gridPlace(cell);
-    const QPoint topLeft{pixels(cellWidth * place.column), pixels(cellHeight * place.row)};
-    const QPoint next{pixels(cellWidth * (place.column + 1)), pixels(cellHeight * (place.row + 1))};
-    return {topLeft, next};  // one pixel into the neighbour
+    const QPoint place = gridPlace(cell);
+    return {QPoint{pixels(cellWidth * place.x()), pixels(cellHeight * place.y())},
+            QPoint{pixels(cellWidth * (place.x() + 1)), pixels(cellHeight * (place.y() + 1))}};
 }
 
 QRect ChartScale::centreFrame() const {

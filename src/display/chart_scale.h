@@ -1,4 +1,4 @@
-// The square on which the cells lie, and the scale at which the chart is drawn.
+// The layout of the square of cells, and the scale at which the chart is drawn.
 #pragma once
 
 #include <QRect>
@@ -8,20 +8,15 @@
 #include "chart/cell_index.h"
 #include "display/label_places.h"
 
-// In twips (1/1440 inch) at scale 1. Frames reach one pixel into their neighbours, so that borders coincide.
+// In twips at scale 1.
 inline constexpr int cellWidth = 3600;
 inline constexpr int cellHeight = 2160;
 inline constexpr int hintHeight = 300;
 
-// Column and row of a cell on the 4 x 4 square, from the top left.
-struct GridPlace {
-    int column;
-    int row;
-    friend constexpr bool operator==(GridPlace, GridPlace) = default;
-};
+// Column and row of a cell on the square of four by four, from the top left.
 // clang-format off
-constexpr GridPlace gridPlace(CellIndex cell) {
-    constexpr std::array<GridPlace, cellCount> places{{
+constexpr QPoint gridPlace(CellIndex cell) {
+    constexpr std::array<QPoint, cellCount> places{{
         {0, 3}, {0, 2}, {0, 1}, {0, 0},  // Yin, Mao, Chen, Si: up the left side
         {1, 0}, {2, 0}, {3, 0},          // Wu, Wei, Shen: along the top
         {3, 1}, {3, 2}, {3, 3},          // You, Xu, Hai: down the right side
@@ -31,24 +26,23 @@ constexpr GridPlace gridPlace(CellIndex cell) {
 }
 // clang-format on
 
-// The next cell on the screen in the direction of the step, across the centre block where it lies between; at
-// the square's edge, the same cell. Steps are -1, 0 or 1.
-CellIndex neighbour(CellIndex cell, int columnStep, int rowStep);
+// The next cell in the direction of the step, which is one column or one row, skipping the centre block; at
+// the edge of the square, the same cell.
+CellIndex neighbour(CellIndex cell, QPoint step);
 
-// The scale at which the chart is drawn, told by the size in pixels of the minor stars' names: whole pixels,
-// so that text stays crisp at every step.
+// The scale, given by the pixel size of the minor stars' names: whole pixels, so that text stays crisp.
 class ChartScale {
   public:
     explicit constexpr ChartScale(int minorPixels) : minorPixels_(minorPixels) {}
 
-    // The largest scale at which the chart and its hint line fit into the room and the text is still legible
-    // at this device pixel ratio. Where there is none, a legible one at which the chart scrolls.
+    // The largest scale at which the chart and its hint line fit into the room, with text that is legible at
+    // this device pixel ratio. If there is none, a legible scale at which the chart scrolls.
     static ChartScale largestFor(const QSize& room, double devicePixelRatio);
 
     constexpr int minorPixels() const { return minorPixels_; }
-    int pixels(int twips) const;          // a length or a place, in pixels
-    int fontPixels(int pixelSize) const;  // a font's size, in pixels
-    QRect cellFrame(CellIndex cell) const;
+    int pixels(int twips) const;            // a length or a place, in pixels
+    int fontPixels(int pixelSize) const;    // a font's size, in pixels
+    QRect cellFrame(CellIndex cell) const;  // one pixel into the next cells, so that borders coincide
     QRect centreFrame() const;
     QSize squareSize() const;
     QSize chartSize() const;  // the square and the hint line, with their margins

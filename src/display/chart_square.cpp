@@ -6,7 +6,7 @@
 
 ChartSquare::ChartSquare(QWidget* parent) : QWidget(parent) {}
 
-// One pixel larger than the square: at a device pixel ratio of 1.5, the last lines reach beyond it.
+// One pixel larger than the square: at a device pixel ratio of 1.5, the last borders reach beyond it.
 void ChartSquare::setScale(ChartScale scale) {
     scale_ = scale;
     resize(scale.squareSize() + QSize{1, 1});
@@ -18,7 +18,7 @@ void ChartSquare::paintEvent(QPaintEvent*) {
     const QRect centre = scale_.centreFrame();
     painter.fillRect(QRect{QPoint{}, scale_.squareSize()}, look::paper);
     painter.fillRect(centre, look::titlePaper);
-    // In whole device pixels, so that all lines are equally wide.
+    // In whole device pixels, so that all borders have the same width.
     const int dots = qMax(1, qRound(devicePixelRatioF()));
     QPen pen{look::line, static_cast<qreal>(dots)};
     pen.setCosmetic(true);
@@ -29,6 +29,6 @@ void ChartSquare::paintEvent(QPaintEvent*) {
     pen.setColor(look::brown);
     painter.setPen(pen);
     const QPoint rule =
-        centre.topLeft() + QPoint{scale_.pixels(centreRule.left), scale_.pixels(centreRule.top)};
-    painter.drawLine(rule, rule + QPoint{scale_.pixels(centreRule.width), 0});
+        centre.topLeft() + QPoint{scale_.pixels(centreRule.x1()), scale_.pixels(centreRule.y1())};
+    painter.drawLine(rule, rule + QPoint{scale_.pixels(centreRule.dx()), 0});
 }

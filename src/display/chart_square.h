@@ -1,4 +1,4 @@
-// The square of the chart: the paper and the lines of all cells and the centre block.
+// The square of the chart: the background and the borders of all cells and the centre block.
 #pragma once
 
 #include <QWidget>
@@ -10,7 +10,7 @@ class ChartSquare : public QWidget {
   public:
     explicit ChartSquare(QWidget* parent);
 
-    // The scale at which the square is drawn, which also fixes its size.
+    // Also resizes the square.
     void setScale(ChartScale scale);
 
   protected:

@@ -5,7 +5,7 @@
 ElidedLabel::ElidedLabel(QWidget* parent) : QLabel(parent) { setTextFormat(Qt::PlainText); }
 
 void ElidedLabel::paintEvent(QPaintEvent*) {
-    // Measuring a very long text takes time, and no character is narrower than a pixel.
+    // A very long text takes long to measure; no character is narrower than a pixel.
     QString line = text().left(width());
     for (QChar& character : line) {
         if (!character.isPrint()) character = QLatin1Char(' ');

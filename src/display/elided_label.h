@@ -1,5 +1,5 @@
-// A label for one line of a person's own text: text that is too long for the label ends in an ellipsis on the
-// screen, and characters that would break the line are drawn as blanks. text() stays what it was given.
+// A label for one line of text that a person has entered. It is elided, and control characters are drawn as
+// blanks; text() returns the whole.
 #pragma once
 
 #include <QLabel>

@@ -17,10 +17,10 @@
 namespace {
 
 constexpr auto backgroundHint = "Hold Your Mouse Button On The Palace";
-// "Abut" is the system's own word.
+// Intentional: "Abut".
 constexpr auto cellHint = "Click To Know More Abut This Palace And Stars";
 
-// The minor stars' letters are the chart's own, which their labels need not be told.
+// Labels in the chart's own font inherit it and are not set one by one.
 bool inheritsFont(LabelKind kind) { return kind == LabelKind::minor || kind == LabelKind::transformation; }
 
 void colour(QWidget* widget, LabelKind kind) {
@@ -35,8 +35,8 @@ QFont scaledFont(const ChartScale& scale, LabelKind kind) {
 
 bool isOneLine(std::size_t label) { return longestTextOf(label).find('\n') == std::string_view::npos; }
 
-// The room that a text needs in a font. Lines that follow one another are each rounded up to whole pixels; a
-// line by itself is not, so that it stays clear of the label below it.
+// The size of a text in a font. The lines of a text are each rounded up to whole pixels; a single line is
+// not, so that it does not overlap the label below.
 QSize textSize(const QFont& font, std::string_view text) {
     const QFontMetricsF metrics{font};
     const QStringList lines = latin(text).split(QStringLiteral("\r\n"));
@@ -62,7 +62,7 @@ frmDisplay::frmDisplay(const ChartModel& chart, const BirthEntry& entry) {
     scroll_ = new QScrollArea;
     scroll_->setFrameShape(QFrame::NoFrame);
     scroll_->setFocusPolicy(Qt::NoFocus);
-    scroll_->setAutoFillBackground(true);  // so that a picture of it has no use for transparency
+    scroll_->setAutoFillBackground(true);  // so that grab() returns an opaque picture
     scroll_->setWidget(gfg);
     createMenus();
     auto* rows = new QVBoxLayout{this};
@@ -72,7 +72,7 @@ frmDisplay::frmDisplay(const ChartModel& chart, const BirthEntry& entry) {
     rows->addWidget(scroll_);
 }
 
-// A cell that loses the focus during destruction must not call back.
+// A cover that loses the focus while it is destroyed must not call the form.
 frmDisplay::~frmDisplay() {
     for (LblCover* cover : lblCover) cover->disconnect(this);
 }
@@ -101,7 +101,7 @@ void frmDisplay::createMenus() {
     mnuFile->addSeparator();
     addEntry(mnuFile, "mnuFileBack", "&Back", this, &frmDisplay::backRequested);
     addEntry(mnuFile, "mnuExit", "E&xit", this, &frmDisplay::exitRequested);
-    menus_->addMenu(new HelpMenu{this});
+    menus_->addMenu(newHelpMenu(this));
 }
 
 void frmDisplay::openMenu(int key) {
@@ -125,7 +125,7 @@ void frmDisplay::createCell(CellIndex cell, const ChartCell& content) {
     CellLabels& labels = labels_[cell.index()];
     for (std::size_t i = 0; i < labels.size(); ++i) {
         labels[i] = createLabel(square, std::string{cellLabels[i].name} + index, cellLabels[i].kind);
-        // A line's spare room is above its letters.
+        // The spare room of a single line is above the text.
         labels[i]->setAlignment(Qt::AlignLeft | (isOneLine(i) ? Qt::AlignBottom : Qt::AlignTop));
         if (cellLabels[i].top == 0) labels[i]->setContentsMargins(0, 1, 0, 0);  // clear of the border
         const CellField& field = labelFields[i];
@@ -146,8 +146,9 @@ void frmDisplay::createCover(CellIndex cell, const ChartModel& chart) {
     connect(cover, &LblCover::pointerChanged, this, &frmDisplay::showHint);
     connect(cover, &LblCover::focusChanged, this,
             [this, cover](Qt::FocusReason reason) { followFocus(cover, reason); });
-    connect(cover, &LblCover::stepWanted, this,
-            [this, cell](int columnStep, int rowStep) { moveFocus(cell, columnStep, rowStep); });
+    connect(cover, &LblCover::stepWanted, this, [this, cell](QPoint step) {
+        lblCover[neighbour(cell, step).index()]->setFocus(Qt::OtherFocusReason);
+    });
 }
 
 void frmDisplay::createCentre() {
@@ -249,7 +250,7 @@ void frmDisplay::showHint() {
     lblCaption->setText(latin(onCell ? cellHint : backgroundHint));
 }
 
-// The ground is sent the moves over all that lies on it.
+// gfg gets the hover moves over all of its children.
 bool frmDisplay::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() != QEvent::HoverMove) return QWidget::eventFilter(watched, event);
     keysLead_ = false;
@@ -263,8 +264,8 @@ bool frmDisplay::focusNextPrevChild(bool next) {
     return true;
 }
 
-// The chart is one stop of the Tab key, at the cell that had the focus last; arrow keys move within it. A
-// cell that is pressed with the pointer must not move away from under it.
+// The chart is one stop in the tab order, at the cell that had the focus last; arrow keys move within it. A
+// click does not scroll, so that the cell stays below the pointer.
 void frmDisplay::followFocus(LblCover* cover, Qt::FocusReason reason) {
     if (cover->hasFocus()) {
         for (LblCover* other : lblCover)
@@ -275,8 +276,4 @@ void frmDisplay::followFocus(LblCover* cover, Qt::FocusReason reason) {
         keysLead_ = byKey || (keysLead_ && reason != Qt::MouseFocusReason);
     }
     showHint();
-}
-
-void frmDisplay::moveFocus(CellIndex from, int columnStep, int rowStep) {
-    lblCover[neighbour(from, columnStep, rowStep).index()]->setFocus(Qt::OtherFocusReason);
 }

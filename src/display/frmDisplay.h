@@ -1,4 +1,4 @@
-// The chart window: twelve palace cells round a centre block, drawn by labels that are filled or shown.
+// The chart window: twelve palace cells round a centre block, each with its labels.
 #pragma once
 
 #include <QLabel>
@@ -18,19 +18,19 @@ class QScrollArea;
 class frmDisplay : public QWidget {
     Q_OBJECT
   public:
-    // Shows the chart, and the entry as the lists of the input form stand.
+    // The entry is that of the input form, with the date that the midnight rule may have changed.
     frmDisplay(const ChartModel& chart, const BirthEntry& entry);
     ~frmDisplay() override;
 
-    // The window at the largest scale whose chart goes into the room, or scrolling where none does. Returns
-    // the window's size then, at most as large as the room.
+    // Scales the chart to the room, or lets it scroll where it would be illegible. Returns the size that the
+    // window then needs, which is never larger than the room.
     QSize fitInto(const QSize& room);
 
-    // Opens the menu whose access key this is, if there is one.
+    // Opens the menu with this access key, if there is one.
     void openMenu(int key);
 
-    // The client area as on the screen, at the screen's own resolution, without the menu, the focus and the
-    // pointer; where the chart scrolls, all of it.
+    // The client area at the screen's device pixel ratio, without the menu bar, the focus and hovering; the
+    // whole chart where it scrolls.
     QPixmap clientPicture();
 
   signals:
@@ -60,11 +60,10 @@ class frmDisplay : public QWidget {
     void placeCentre();
     void showHint();
     void followFocus(LblCover* cover, Qt::FocusReason reason);
-    void moveFocus(CellIndex from, int columnStep, int rowStep);
 
     QMenuBar* menus_;
     QScrollArea* scroll_;
-    QWidget* gfg;         // the ground on which all lies
+    QWidget* gfg;         // the parent of all that follows
     ChartSquare* Frame1;  // the square
     QWidget* Frame2;      // the centre block
     QLabel* lblCaption;
@@ -74,5 +73,5 @@ class frmDisplay : public QWidget {
     std::array<bool, cellCount> holdsZiWei_{};
     std::array<QLabel*, centreLabels.size()> centre_{};
     ChartScale scale_{naturalScale};
-    bool keysLead_ = false;  // keys have moved the focus since the pointer last moved
+    bool keysLead_ = false;  // whether the focus has moved by a key since the pointer last moved
 };

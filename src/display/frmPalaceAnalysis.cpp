@@ -18,10 +18,9 @@
 
 namespace {
 
-// A line of the text is easiest to read at about this many characters.
-constexpr int comfortableLine = 84;
+constexpr int comfortableLine = 84;  // characters
 
-// The sizes in which the text can be read, in per cent.
+// In per cent of the runs' font sizes.
 constexpr std::array<int, 10> textSizes{80, 90, 100, 110, 125, 150, 175, 200, 250, 300};
 
 constexpr int wheelStep = QWheelEvent::DefaultDeltasPerStep;
@@ -38,7 +37,6 @@ frmPalaceAnalysis::frmPalaceAnalysis(AnalysisKind kind, const std::vector<TextRu
     rows->setSpacing(10);
     rows->addWidget(RTB);
     createButtons(rows);
-    cmdOk->setDefault(true);
     createMenus();
     createKeys();
     fitToScreen();
@@ -50,7 +48,7 @@ void frmPalaceAnalysis::createText() {
     RTB->setReadOnly(true);
     RTB->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     RTB->setTabChangesFocus(true);
-    // The runs bring dark colours of their own, so the text keeps its paper on a dark desktop.
+    // The runs have dark colours, so the background stays light on a dark desktop.
     QPalette papers = RTB->palette();
     papers.setColor(QPalette::Base, look::paper);
     papers.setColor(QPalette::Text, look::ink);
@@ -61,27 +59,27 @@ void frmPalaceAnalysis::createText() {
     RTB->document()->setUndoRedoEnabled(false);
     RTB->viewport()->installEventFilter(this);
     fillWithRuns(*RTB->document(), runs_, view_.textSize);
-    // The text is read from its top, by eye and by the keyboard's cursor.
     RTB->moveCursor(QTextCursor::Start);
 }
 
 void frmPalaceAnalysis::createButtons(QVBoxLayout* rows) {
-    cmdSave = newButton("cmdSave", "&Save", this, &frmPalaceAnalysis::saveRequested);
-    cmdPrint = newButton("cmdPrint", "&Print", this, &frmPalaceAnalysis::cmdPrint_Click);
-    cmdOk = newButton("cmdOk", "&OK", this, &QDialog::accept);
+    auto* cmdSave = newButton("cmdSave", "&Save", this, &frmPalaceAnalysis::saveRequested);
+    auto* cmdPrint = newButton("cmdPrint", "&Print", this, &frmPalaceAnalysis::cmdPrint_Click);
+    auto* cmdOk = newButton("cmdOk", "&OK", this, &QDialog::accept);
     auto* row = new QHBoxLayout;
     row->addStretch();
     for (QPushButton* button : {cmdSave, cmdPrint, cmdOk}) row->addWidget(button);
     rows->addLayout(row);
     cmdSave->setHidden(kind_ == AnalysisKind::onePalace);
     cmdPrint->setHidden(kind_ == AnalysisKind::onePalace);
+    cmdOk->setDefault(true);  // needs its dialog, which the layout has set as its parent
 }
 
 void frmPalaceAnalysis::createMenus() {
     QMenuBar* menus = newMenuBar(this);
     auto* mnuFile = addMenu(menus, "mnuFile", "&File");
     addEntry(mnuFile, "mnuOk", "&Ok", this, &QDialog::accept);
-    menus->addMenu(new HelpMenu{this});
+    menus->addMenu(newHelpMenu(this));
     layout()->setMenuBar(menus);
 }
 
@@ -110,7 +108,7 @@ void frmPalaceAnalysis::fitToScreen() {
     resize(firstSize_);
 }
 
-// A size that only the screen has bounded is not a person's choice.
+// A size that was only bounded by the screen does not replace the one that a person chose.
 AnalysisView frmPalaceAnalysis::view() const {
     const QSize now = normalGeometry().size();
     return {view_.textSize, now == firstSize_ ? view_.size : now};
@@ -121,7 +119,7 @@ void frmPalaceAnalysis::cmdPrint_Click() {
     printAnalysis(runs_, cursor.selectionStart(), cursor.selectionEnd(), this);
 }
 
-// The line at the top of the view stays there, and the selection as it is.
+// The line at the top of the view and the selection stay the same.
 void frmPalaceAnalysis::setTextSize(int percent) {
     if (percent == view_.textSize) return;
     view_.textSize = percent;
@@ -145,7 +143,7 @@ void frmPalaceAnalysis::stepTextSize(bool larger) {
     if (!larger && here != textSizes.begin()) setTextSize(*(here - 1));
 }
 
-// A touchpad turns the wheel by less than a step at a time.
+// A touchpad sends angles of less than a step.
 bool frmPalaceAnalysis::eventFilter(QObject* watched, QEvent* event) {
     auto* wheel = event->type() == QEvent::Wheel ? static_cast<QWheelEvent*>(event) : nullptr;
     if (wheel == nullptr || !(wheel->modifiers() & Qt::ControlModifier))

@@ -1,31 +1,32 @@
-// The analysis window: the runs of an analysis as styled text, to be read, printed or, for the whole chart,
-// kept as a chart file.
+// The analysis window: shows an analysis; that of all palaces can be printed, and the chart saved.
 #pragma once
 
 #include <QDialog>
 #include <vector>
 
-#include "display/analysis_view.h"
 #include "interpret/text_run.h"
 
-class QPushButton;
 class QTextEdit;
 class QVBoxLayout;
 
 enum class AnalysisKind {
-    onePalace,   // to be read and closed
-    allPalaces,  // to be saved and printed as well
+    onePalace,
+    allPalaces,  // can be saved and printed
+};
+
+// What a person can change of the view; it is kept from one analysis to the next.
+struct AnalysisView {
+    int textSize = 100;  // percentage of the runs' font sizes
+    QSize size;          // of the window; invalid until a person resizes it
 };
 
 class frmPalaceAnalysis : public QDialog {
     Q_OBJECT
   public:
-    // Shows the runs one after another, each in its own style, with CR LF as one line break, in a window that
-    // is never larger than the parent's screen.
+    // The window is never larger than the parent's screen.
     frmPalaceAnalysis(AnalysisKind kind, const std::vector<TextRun>& runs, const AnalysisView& view,
                       QWidget* parent);
 
-    // The view as a person has left it.
     AnalysisView view() const;
 
   signals:
@@ -48,9 +49,6 @@ class frmPalaceAnalysis : public QDialog {
     std::vector<TextRun> runs_;
     AnalysisView view_;
     QSize firstSize_;      // of the window
-    int turnedAngle_ = 0;  // of the wheel, in eighths of a degree, short of a step
+    int turnedAngle_ = 0;  // of the wheel since the last step, in eighths of a degree
     QTextEdit* RTB;
-    QPushButton* cmdSave;
-    QPushButton* cmdPrint;
-    QPushButton* cmdOk;
 };

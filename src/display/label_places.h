@@ -1,9 +1,9 @@
-// Every label of the chart: where it stands and how it looks. Places are in twips (1/1440 inch) at the
-// chart's scale 1, those in a cell counted from the cell's top left corner, those of the centre from the
-// centre block's.
+// Every label of the chart: its place and its look. Places are in twips at scale 1, from the top left corner
+// of the cell or of the centre block.
 #pragma once
 
 #include <QColor>
+#include <QLine>
 #include <array>
 #include <string_view>
 
@@ -43,8 +43,8 @@ inline constexpr std::array<LabelLook, 13> labelLooks{{
 
 constexpr const LabelLook& lookOf(LabelKind kind) { return labelLooks[static_cast<std::size_t>(kind)]; }
 
-// A label that every cell has. The width is the least; a label is wider where its longest text asks for it.
-// That text is named here where it is not the name of the one star that the label shows.
+// A label that every cell has. It is at least as wide as its longest text, which is given here unless the
+// label shows only one star.
 struct CellLabel {
     std::string_view name;
     int left;
@@ -54,8 +54,8 @@ struct CellLabel {
     std::string_view longestText = {};
 };
 
-// The left side of a cell holds what a cell is: branch, stem, major stars, palace. The rest of it holds the
-// minor stars in three columns of ten rows, and at the foot, in a block of their own, the transformations.
+// On the left of a cell stand branch, stem, major stars and palace; beside them the minor stars in three
+// columns, with the transformations as a block at the bottom.
 // clang-format off
 inline constexpr std::array<CellLabel, 35> cellLabels{{
     {"lblEarthlyBranches",    60,    0, 600, LabelKind::quiet,          "Zi Wei\r\nChou"},
@@ -100,7 +100,7 @@ inline constexpr std::array<CellLabel, 35> cellLabels{{
 }};
 // clang-format on
 
-// A label of the centre block: a fixed prompt or, where the prompt is empty, a value that is filled in.
+// A label of the centre block: a fixed prompt or, where the prompt is empty, a value.
 struct CentreLabel {
     std::string_view name;
     std::string_view prompt;
@@ -112,7 +112,7 @@ struct CentreLabel {
     bool centred;
 };
 
-// The centre block reads as a title page: who and when, then what the chart is counted from.
+// The centre block reads as a title page: the person, then the values of the chart.
 // clang-format off
 inline constexpr std::array<CentreLabel, 13> centreLabels{{
     {"lblName",                 "",                          300,  420, 6600, 450, LabelKind::name,    true},
@@ -131,13 +131,10 @@ inline constexpr std::array<CentreLabel, 13> centreLabels{{
 }};
 // clang-format on
 
-// The line between who and when and the rest.
-struct CentreRule {
-    int left, top, width;
-};
-inline constexpr CentreRule centreRule{1800, 1800, 3600};
+// The line below the person.
+inline constexpr QLine centreRule{1800, 1800, 5400, 1800};
 
-// The row of a table whose name this is; where there is none, the program does not compile.
+// The index of the row with that name. A name that is not in the table does not compile.
 template <class Table>
 consteval std::size_t rowOf(const Table& table, std::string_view name) {
     std::size_t row = 0;

@@ -11,48 +11,33 @@ LblCover::LblCover(CellIndex cell, QWidget* parent) : PressArea(parent) {
     setCursor(Qt::PointingHandCursor);
 }
 
-void LblCover::enterEvent(QEnterEvent* event) {
-    PressArea::enterEvent(event);
-    update();
-    emit pointerChanged();
-}
-
-void LblCover::leaveEvent(QEvent* event) {
-    PressArea::leaveEvent(event);
-    update();
-    emit pointerChanged();
-}
-
-void LblCover::focusInEvent(QFocusEvent* event) {
-    PressArea::focusInEvent(event);
-    emit focusChanged(event->reason());
-}
-
-void LblCover::focusOutEvent(QFocusEvent* event) {
-    PressArea::focusOutEvent(event);
-    emit focusChanged(event->reason());
+bool LblCover::event(QEvent* event) {
+    const bool handled = PressArea::event(event);
+    if (event->type() == QEvent::Enter || event->type() == QEvent::Leave) {
+        update();
+        emit pointerChanged();
+    } else if (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut) {
+        emit focusChanged(static_cast<QFocusEvent*>(event)->reason());
+    }
+    return handled;
 }
 
 void LblCover::keyPressEvent(QKeyEvent* event) {
     switch (event->key()) {
         case Qt::Key_Left:
-            emit stepWanted(-1, 0);
-            return;
+            return emit stepWanted({-1, 0});
         case Qt::Key_Right:
-            emit stepWanted(1, 0);
-            return;
+            return emit stepWanted({1, 0});
         case Qt::Key_Up:
-            emit stepWanted(0, -1);
-            return;
+            return emit stepWanted({0, -1});
         case Qt::Key_Down:
-            emit stepWanted(0, 1);
-            return;
+            return emit stepWanted({0, 1});
         default:
             PressArea::keyPressEvent(event);
     }
 }
 
-// The focus frame is thin at the top, where the letters begin right below the edge.
+// The focus frame is thinner at the top, where text begins right below the border.
 void LblCover::paintEvent(QPaintEvent*) {
     if (!marked_) return;
     QPainter painter{this};

@@ -1,5 +1,5 @@
-// The transparent area over a palace cell: it is clicked and hovered over, holds the focus, and speaks for
-// the cell to a screen reader.
+// The transparent button over a palace cell: it takes clicks and the focus, shows hovering, and stands for
+// the cell in the accessibility tree.
 #pragma once
 
 #include "chart/cell_index.h"
@@ -10,19 +10,16 @@ class LblCover : public PressArea {
   public:
     LblCover(CellIndex cell, QWidget* parent);
 
-    // Whether pointer and focus are painted: on the screen, but not in a picture.
+    // Whether hovering and the focus are painted: on the screen, but not in an exported picture.
     void setMarked(bool marked) { marked_ = marked; }
 
   signals:
     void pointerChanged();  // entered the cell or left it
     void focusChanged(Qt::FocusReason reason);
-    void stepWanted(int columnStep, int rowStep);
+    void stepWanted(QPoint step);  // one column or one row, by an arrow key
 
   protected:
-    void enterEvent(QEnterEvent* event) override;
-    void leaveEvent(QEvent* event) override;
-    void focusInEvent(QFocusEvent* event) override;
-    void focusOutEvent(QFocusEvent* event) override;
+    bool event(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 

@@ -1,4 +1,4 @@
-// Runs of an analysis as a styled text.
+// The runs of an analysis as a QTextDocument.
 #pragma once
 
 #include <QTextDocument>
@@ -6,5 +6,5 @@
 
 #include "interpret/text_run.h"
 
-// Replaces the document's content by the runs, each in its own style, at so many per cent of its font size.
+// Replaces the document's content by the runs, each in its own style, at a percentage of its font size.
 void fillWithRuns(QTextDocument& document, const std::vector<TextRun>& runs, int percent);

@@ -19,7 +19,7 @@ std::string latin1(std::u16string_view text) {
     return bytes;
 }
 
-// Takes the first line and its end off the bytes and decodes it.
+// Removes the first line from the bytes and returns it decoded.
 std::string nextLine(std::string_view& bytes) {
     const std::string_view line = bytes.substr(0, bytes.find_first_of("\r\n"));
     bytes.remove_prefix(line.size());

@@ -1,5 +1,5 @@
-// The chart file: four lines of shifted text in Latin-1 that hold the birth data, from which the chart is
-// cast again. Hour and minute are not kept.
+// The chart file: four lines of shifted Latin-1 text with the birth data, from which the chart is cast again.
+// Intentional: without hour and minute.
 #pragma once
 
 #include <cstddef>
@@ -8,24 +8,22 @@
 
 #include "chart/chart_model.h"
 
-// How many bytes of a chart file are read: four lines, each as long as the longest name that the name box
-// takes.
+// The most bytes of a chart file that are read: four lines, each as long as a QLineEdit allows.
 inline constexpr std::size_t longestChartFile = std::size_t{4} * (32767 + 2);
 
-// The shift that every line of a chart file passes through, so that the file is not plain text: each code
-// plus 85, or less 85; codes that can't be shifted are left out. An encoded line holds no code below 85, and
-// so no line end.
+// Shift each byte by +85 or -85, so that the file is not plain text; bytes that would leave the range 0..255
+// are left out. An encoded line has no byte below 85, and so no line break.
 std::string EncodeLine(std::string_view text);
 std::string DecodeLine(std::string_view text);
 
-// The bytes of a chart file: name, day, month name and year, each encoded and ended by CR LF. Characters that
-// Latin-1 does not have become "?".
+// The bytes of a chart file: name, day, month name and year, each encoded and ended by CR LF. Characters
+// outside Latin-1 become "?".
 std::string chartFileBytes(const ChartInput& input);
 
-// Whether the name's last three characters are "plf", in small letters; a dot is not asked for.
+// Whether the name ends in "plf", in lower case. Intentional: no dot is required.
 bool hasChartFileEnding(std::string_view name);
 
-// The decoded values of a chart file, in Latin-1; empty where the file has no such line.
+// The decoded values of a chart file, in Latin-1; empty where a line is missing.
 struct ChartFileValues {
     std::string name;
     std::string day;
@@ -33,6 +31,5 @@ struct ChartFileValues {
     std::string year;
 };
 
-// Takes the values from the bytes of a chart file. Lines end in CR LF, LF or CR; those after the fourth are
-// passed over.
+// Lines end in CR LF, LF or CR; those after the fourth are ignored.
 ChartFileValues chartFileValues(std::string_view bytes);

@@ -19,7 +19,7 @@ constexpr int quality = 100;
 std::string encoded(const QString& path) { return QFile::encodeName(path).toStdString(); }
 QString decoded(const std::string& path) { return QFile::decodeName(QByteArray::fromStdString(path)); }
 
-// A link that leads nowhere is a name that is taken, too.
+// A dangling symbolic link is taken, too.
 bool isTaken(const std::string& path) {
     const QFileInfo file{decoded(path)};
     return file.exists() || file.isSymLink();
@@ -39,7 +39,7 @@ void tellTooManyCopies(const QString& fileName, QWidget* parent) {
                 QStringLiteral(" UNABLE  TO  CREATE  NEW  FILE") + fileName);
 }
 
-// A new file for the bitmap beside the picture, under its own name where that is free and not the picture's.
+// Creates the bitmap beside the picture; under a temporary name if its own is taken or is the picture's.
 std::unique_ptr<QFile> newBitmap(const PictureName& picture) {
     const std::string path = bitmapPathFor(picture.path());
     auto bitmap = std::make_unique<QFile>(decoded(path));

@@ -1,4 +1,4 @@
-// Saves a picture of the chart as a JPEG file.
+// Saving the chart as a JPEG file.
 #pragma once
 
 #include <QPixmap>
@@ -6,10 +6,10 @@
 
 class QWidget;
 
-// Asks for a name and saves the picture under it; without a name nothing happens.
+// Asks for a path and saves the picture there.
 void exportPicture(const QPixmap& picture, const QString& converter, QWidget* parent);
 
-// Saves the picture under the chosen path, or under the first free name that the naming rule makes of it.
-// A step that fails ends the save in silence, with neither a temporary file nor half a picture left.
+// Saves the picture at the chosen path, or under the free name that uniquePictureName() makes of it. A
+// failure is not reported, and leaves neither a temporary file nor part of a picture.
 void savePictureAs(const QPixmap& picture, const QString& chosenPath, const QString& converter,
                    QWidget* parent);

@@ -20,7 +20,7 @@ std::string replaced(std::string_view text, std::string_view part, std::string_v
     return result;
 }
 
-// Doubled separators are reduced pair by pair, so three of them become two: harmless to the file system.
+// Separators are reduced pair by pair: three become two, which does no harm.
 std::string tidyFolder(std::string_view folder, const PictureSurroundings& around) {
     std::string given{folder.empty() ? around.applicationFolder : folder};
     if (!given.ends_with('/')) given += '/';
@@ -33,7 +33,7 @@ std::string pictureNameFor(std::string_view name, const PictureSurroundings& aro
     return replaced(name, ".bmp", pictureExtension);
 }
 
-// Takes so many bytes or a few more, in whole characters, from in front of the first dot.
+// The name without so many bytes, or a few more to keep UTF-8 whole, before its first dot.
 std::string shortened(std::string_view name, std::size_t excess) {
     const std::size_t dot = name.find('.');
     std::size_t end = dot - std::min(excess, dot);

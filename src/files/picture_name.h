@@ -1,4 +1,4 @@
-// The name under which a picture is saved: a free one, until all counters are taken.
+// The file name for a picture: one that is free, as long as there are counters.
 #pragma once
 
 #include <cstddef>
@@ -6,10 +6,10 @@
 #include <string>
 #include <string_view>
 
-inline constexpr std::size_t longestFileName = 255;  // in bytes; file systems hold no longer ones
+inline constexpr std::size_t longestFileName = 255;  // in bytes, as most file systems allow
 inline constexpr std::string_view pictureExtension = ".jpg";
 
-// What the naming rule asks of the world around it.
+// What the naming rule needs to know of its surroundings.
 struct PictureSurroundings {
     std::string applicationFolder;
     std::function<bool(const std::string& path)> exists;
@@ -24,14 +24,14 @@ struct PictureName {
     std::string path() const { return folder + name; }
 };
 
-// The full path for a picture of the chosen name in the chosen folder, both in the file system's encoding.
-// Without a folder it is the application's own; without a name it is the clock's; a name without any dot gets
-// ".jpg", and in any other every ".bmp", in any case of letters, becomes ".jpg". Where the name is taken,
-// every dot of it gets the first free counter _001 .. _999 before it; a counted name longer than the 255
-// bytes that file systems hold loses whole UTF-8 characters in front of its counters.
+// The path for a picture of the chosen name in the chosen folder, both in the file system's encoding. The
+// default folder is the application's, the default name the clock. A name without a dot gets ".jpg"; in any
+// other, every ".bmp", in any case of letters, becomes ".jpg". If the name is taken, the first free counter
+// _001 .. _999 is inserted before every dot; a name that is then longer than longestFileName loses whole
+// UTF-8 characters before its counters.
 PictureName uniquePictureName(std::string_view folder, std::string_view name,
                               const PictureSurroundings& around);
 
-// The path with ".bmp" in place of ".jpg", in any case of letters: the name of the temporary bitmap. Equal to
-// the path itself where that has no ".jpg".
+// The path of the temporary bitmap: the picture's, with ".bmp" for every ".jpg" of its name, in any case of
+// letters. If there is none, it is the picture's own path.
 std::string bitmapPathFor(const std::string& picturePath);

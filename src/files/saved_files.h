@@ -6,9 +6,9 @@
 #include <string>
 #include <string_view>
 
-// The file's bytes, at most `most` of them; nothing where it can't be read or is no regular file.
+// The first `most` bytes of the file; nothing if it can't be read or is not a regular file.
 std::optional<std::string> readFile(const QString& path, std::size_t most);
 
-// Puts the bytes in the file. Returns whether they are there; if not, what was there before still is (but for
-// a file in a folder that takes no new ones, which is written in its place).
+// Replaces the file's content and returns whether that succeeded. If not, the file is unchanged, unless its
+// folder is read-only, so that it had to be overwritten directly.
 [[nodiscard]] bool writeFile(const QString& path, std::string_view bytes);

@@ -1,5 +1,4 @@
-// The product's name on a form, which opens the home page: by a click, or by Enter or Space while it has the
-// focus.
+// The product's name on a form: a button that looks like a link and opens the home page.
 #pragma once
 
 #include "style/controls.h"
@@ -7,7 +6,6 @@
 class BannerLink : public PressArea {
     Q_OBJECT
   public:
-    // On a form, in the font given.
     BannerLink(const QFont& font, QWidget* form, QWidget* parent);
 
     QSize sizeHint() const override;

@@ -34,7 +34,7 @@ frmAbout::frmAbout(QWidget* parent) : QDialog(parent) {
                    [](QWidget* asker) { openPage(WebPage::onlineHelp, asker); });
 
     auto* grid = new QGridLayout{this};
-    // As large as its words, also where that is more of the screen than the toolkit would give to a dialog.
+    // As large as its contents, which may be more than the two thirds of the screen that a layout allows.
     grid->setSizeConstraint(QLayout::SetFixedSize);
     grid->setContentsMargins(18, 18, 18, 14);
     grid->setHorizontalSpacing(16);

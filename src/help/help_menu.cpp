@@ -4,15 +4,16 @@
 #include "help/pages.h"
 #include "style/controls.h"
 
-HelpMenu::HelpMenu(QWidget* form) : QMenu(QStringLiteral("&Help"), form) {
-    named(this, "mnuHelp");
-    const auto addPage = [this, form](const char* name, const char* caption, WebPage page,
-                                      const QKeySequence& shortcut = {}) {
+QMenu* newHelpMenu(QWidget* form) {
+    auto* menu = named(new QMenu{QStringLiteral("&Help"), form}, "mnuHelp");
+    const auto addPage = [=](const char* name, const char* caption, WebPage page,
+                             const QKeySequence& shortcut = {}) {
         addEntry(
-            this, name, caption, form, [page](QWidget* asker) { openPage(page, asker); }, shortcut);
+            menu, name, caption, form, [page](QWidget* asker) { openPage(page, asker); }, shortcut);
     };
     addPage("mnuOnline", "&Online Help", WebPage::onlineHelp, QKeySequence::HelpContents);
     addPage("mnuVisit", "&Visit Us Online", WebPage::home);
     addPage("mnuUpdate", "Check for Software &Update", WebPage::download);
-    addEntry(this, "mnuAbout", "&About Software", form, [](QWidget* asker) { frmAbout{asker}.exec(); });
+    addEntry(menu, "mnuAbout", "&About Software", form, [](QWidget* asker) { frmAbout{asker}.exec(); });
+    return menu;
 }

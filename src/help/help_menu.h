@@ -1,11 +1,8 @@
-// The Help menu that the windows share. It opens its pages and the about box itself.
+// The Help menu that the windows share.
 #pragma once
 
-#include <QMenu>
+class QMenu;
+class QWidget;
 
-class HelpMenu : public QMenu {
-    Q_OBJECT
-  public:
-    // For the menu bar of a form.
-    explicit HelpMenu(QWidget* form);
-};
+// A new Help menu for the menu bar of a form. It opens the pages and the about box itself.
+QMenu* newHelpMenu(QWidget* form);

@@ -5,34 +5,26 @@
 #include <QDir>
 #include <QElapsedTimer>
 #include <QProcess>
+#include <array>
 
 #include "style/message.h"
+#include "style/text.h"
 
 namespace {
 
-QString fileNameOf(WebPage page) {
-    switch (page) {
-        case WebPage::onlineHelp:
-            return QStringLiteral("help.html");
-        case WebPage::download:
-            return QStringLiteral("download.html");
-        case WebPage::home:
-            break;
-    }
-    return QStringLiteral("index.html");
-}
+constexpr std::array fileNames{"index.html", "help.html", "download.html"};  // in the order of WebPage
 
-// Beside the program, or where an installed program keeps its data.
+// In a build, beside the program; else where it is installed.
 QDir helpFolder() {
     const QDir program{QCoreApplication::applicationDirPath()};
     const QDir beside{program.filePath(QStringLiteral("help"))};
     return beside.exists() ? beside : QDir{program.filePath(QStringLiteral(PALACE_LANTERN_HELP_FOLDER))};
 }
 
-// xdg-open tells within seconds that it found no browser; a process that ends later was the browser.
+// xdg-open fails within seconds if it finds no browser. A process that ends later was the browser itself.
 constexpr int patience = 10'000;  // milliseconds
 
-// A dialog may have been opened meanwhile, and would block a message behind it.
+// The parent of the message is a modal dialog if one was opened in the meantime, which would block it.
 void tellAddress(const QUrl& address, QWidget* asker) {
     QWidget* dialog = QApplication::activeModalWidget();
     showMessage(dialog != nullptr ? dialog : asker, QMessageBox::Information,
@@ -45,16 +37,14 @@ void tellAddress(const QUrl& address, QWidget* asker) {
 
 QUrl addressOf(WebPage page) {
     const QString base = QStringLiteral(PALACE_LANTERN_WEB_BASE);
-    if (base.isEmpty())
-        return QUrl::fromLocalFile(QDir::cleanPath(helpFolder().absoluteFilePath(fileNameOf(page))));
-    return QUrl{base.endsWith(QLatin1Char('/')) ? base : base + QLatin1Char('/')}.resolved(
-        QUrl{fileNameOf(page)});
+    const QString file = latin(fileNames[static_cast<std::size_t>(page)]);
+    if (base.isEmpty()) return QUrl::fromLocalFile(QDir::cleanPath(helpFolder().absoluteFilePath(file)));
+    return QUrl{base.endsWith(QLatin1Char('/')) ? base : base + QLatin1Char('/')}.resolved(QUrl{file});
 }
 
-// By xdg-open, which tells whether a browser took the page. Qt 6.8 still: QDesktopServices, which opens it
-// where there is no xdg-open, does not tell. The process has no parent, because it may become the browser,
-// which outlives the program. The connections are queued, so that no message runs inside the process's own
-// signals.
+// Qt 6.8 still: QDesktopServices does not report whether a browser opened the page, so xdg-open is tried
+// first. The process has no parent, because it may become the browser, which outlives the program. The
+// connections are queued, so that no message box runs inside a signal of the process.
 void openPage(WebPage page, QWidget* asker) {
     const QUrl address = addressOf(page);
     auto* opener = new QProcess;

@@ -1,4 +1,4 @@
-// The pages behind the Help menu and the banners.
+// The pages that the Help menu and the banners open.
 #pragma once
 
 #include <QUrl>
@@ -7,10 +7,8 @@ class QWidget;
 
 enum class WebPage { home, onlineHelp, download };
 
-// The page below the base address that the program was built with or, without one, among the help pages
-// installed with it.
+// The page's address below PALACE_LANTERN_WEB_BASE or, if that is empty, among the installed help pages.
 QUrl addressOf(WebPage page);
 
-// Opens the page in the default browser; where there is none that will open it, the form that asked says
-// where the page is.
+// Opens the page in the default browser; if that fails, shows a message with the address over the form.
 void openPage(WebPage page, QWidget* asker);

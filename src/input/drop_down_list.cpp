@@ -6,8 +6,8 @@
 
 namespace {
 
-// Until Qt 6.8: QListView announces its current entry as focused even while the list is closed, as when a
-// person types into the box.
+// Until Qt 6.8: QListView sends the accessibility focus event of its current entry even while it is hidden,
+// for example when a key changes the entry.
 class EntryView : public QListView {
   protected:
     void currentChanged(const QModelIndex& current, const QModelIndex& previous) override {
@@ -24,7 +24,8 @@ DropDownList::DropDownList() {
     setMaxVisibleItems(16);
 }
 
-// Qt 6.8 still: QComboBox drops down on Enter where the desktop lets Enter press buttons, and does not cast.
+// Qt 6.8 still: where the desktop lets Enter press buttons, QComboBox opens its list on Enter, which would
+// not reach the default button.
 void DropDownList::keyPressEvent(QKeyEvent* event) {
     const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     enter ? event->ignore() : QComboBox::keyPressEvent(event);

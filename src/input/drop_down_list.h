@@ -1,4 +1,4 @@
-// A drop-down list that the wheel turns only while it has the focus, and that leaves Enter to its form.
+// A combo box that handles the wheel only while it has the focus, and leaves Enter to its form.
 #pragma once
 
 #include <QComboBox>

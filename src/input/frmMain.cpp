@@ -30,13 +30,12 @@ void fill(QComboBox* list, const std::vector<std::string>& entries) {
     list->addItems(texts);
 }
 
-// A text that is no entry leaves the list as it was.
 void selectText(QComboBox* list, const std::string& entry) {
     const int index = list->findText(latin(entry), Qt::MatchExactly | Qt::MatchCaseSensitive);
     if (index >= 0) list->setCurrentIndex(index);
 }
 
-// A caption; a screen reader takes it for that of the control beside or below it.
+// A label that is also the accessible name of its control.
 QLabel* caption(const char* words, QWidget* control = nullptr) {
     auto* label = new QLabel{latin(words)};
     label->setTextFormat(Qt::PlainText);
@@ -44,7 +43,13 @@ QLabel* caption(const char* words, QWidget* control = nullptr) {
     return label;
 }
 
-// The one chart file among what is dragged, or an empty path.
+// A column of the grid: the caption and, below it, the list.
+void addList(QGridLayout* grid, int row, int column, const char* heading, QComboBox* list) {
+    grid->addWidget(caption(heading, list), row, column);
+    grid->addWidget(list, row + 1, column);
+}
+
+// The path of the dragged file, or an empty one unless exactly one chart file is dragged.
 QString chartFileIn(const QMimeData& dragged) {
     const QList<QUrl> urls = dragged.urls();
     const QString path = urls.size() == 1 ? urls.constFirst().toLocalFile() : QString{};
@@ -69,11 +74,10 @@ void frmMain::Form_Load() {
     fill(cmbYear, yearEntries());
     fill(cmbHour, hourEntries());
     fill(cmbMinute, minuteEntries());
-    for (QComboBox* list : {cmbHour, cmbMinute, cmbDate, cmbMonth, cmbYear}) list->setCurrentIndex(0);
 }
 
 void frmMain::createControls() {
-    auto* content = new QWidget;
+    auto* content = new QWidget{this};
     auto* rows = new QVBoxLayout{content};
     rows->setContentsMargins(18, 12, 18, 18);
     rows->setSpacing(14);
@@ -83,8 +87,8 @@ void frmMain::createControls() {
     rows->addStretch();
     followFont();
 
-    // On a screen that is too small for the form, the form scrolls; in a window that is too wide, as on a
-    // tiling desktop, its content stays in the middle.
+    // The form scrolls on a screen that is too small for it. In a window that is too wide, as in a tiling
+    // window manager, the content is centred.
     scroll_ = new QScrollArea;
     scroll_->setWidget(content);
     scroll_->setWidgetResizable(true);
@@ -95,7 +99,7 @@ void frmMain::createControls() {
     whole->setContentsMargins(0, 0, 0, 0);
     whole->addWidget(scroll_);
     createMenus();
-    // Only now: a button takes note of its dialog when it is made the default, and must be in it by then.
+    // Only now, because setDefault() needs the button's dialog.
     cmdGenerateChart->setDefault(true);
 }
 
@@ -111,7 +115,7 @@ QWidget* frmMain::createBanner() {
 
 QWidget* frmMain::createDetails() {
     txtName = named(new NameBox, "txtName");
-    // Queued: a modal message in the midst of the box's own work would disturb it.
+    // Queued, so that no modal message opens while the box handles an event.
     connectControl(txtName, &NameBox::rejected, this, &frmMain::txtName_KeyPress, Qt::QueuedConnection);
     cmbDate = named(new DropDownList, "cmbDate");
     cmbMonth = named(new DropDownList, "cmbMonth");
@@ -138,17 +142,12 @@ QWidget* frmMain::createDetails() {
     return details;
 }
 
-void frmMain::addList(QGridLayout* grid, int row, int column, const char* heading, QComboBox* list) {
-    grid->addWidget(caption(heading, list), row, column);
-    grid->addWidget(list, row + 1, column);
-}
-
 QWidget* frmMain::createButtons() {
     cmdGenerateChart = newButton("cmdGenerateChart", "Get My &Palace Lantern Interpretation", this,
                                  &frmMain::cmdGenerateChart_Click);
-    cmdOpen = newButton("cmdOpen", "Click Here To Open Previously Saved Palace Lantern Interpretation", this,
-                        &frmMain::cmdOpen_Click);
-    cmExit = newButton("cmExit", "&Exit", this, &frmMain::cmExit_Click);
+    auto* cmdOpen = newButton("cmdOpen", "Click Here To Open Previously Saved Palace Lantern Interpretation",
+                              this, &frmMain::cmdOpen_Click);
+    auto* cmExit = newButton("cmExit", "&Exit", this, &frmMain::cmExit_Click);
 
     auto* buttons = new QWidget;
     auto* rows = new QVBoxLayout{buttons};
@@ -164,12 +163,12 @@ void frmMain::createMenus() {
     auto* mnuFile = addMenu(menus, "mnuFile", "&File");
     addEntry(mnuFile, "mnuGenerateChart", "Get My &Palace Lantern Chart", this,
              &frmMain::cmdGenerateChart_Click);
-    // The name's spelling is the system's own.
+    // Intentional: "Previoysly".
     addEntry(mnuFile, "mnuOpenPrevioyslySavedChart", "Open Previously Saved Palace Lantern Interpretation",
              this, &frmMain::cmdOpen_Click, QKeySequence::Open);
     mnuFile->addSeparator();
     addEntry(mnuFile, "mnuExit", "E&xit", this, &frmMain::cmExit_Click);
-    menus->addMenu(new HelpMenu{this});
+    menus->addMenu(newHelpMenu(this));
     layout()->setMenuBar(menus);
 }
 
@@ -223,10 +222,6 @@ void frmMain::showDate(const PickedDate& date) {
     cmbYear->setCurrentIndex(date.yearPosition);
 }
 
-void frmMain::refuseDate() {
-    showMessage(this, QMessageBox::Information, QStringLiteral("Please Enter Correct Date"));
-}
-
 void frmMain::clearEntry() {
     txtName->setName({});
     for (QComboBox* list : {cmbDate, cmbMonth, cmbYear, cmbHour, cmbMinute}) list->setCurrentIndex(0);
@@ -238,8 +233,7 @@ void frmMain::closeEvent(QCloseEvent* event) {
     emit closed();
 }
 
-// One chart file, while no dialog is open. It is copied, whatever is proposed: the sender deletes what is
-// moved.
+// Accepts one chart file while no dialog is open. Always as a copy: after a move, the sender deletes it.
 void frmMain::considerDrop(QDropEvent* event) {
     event->setDropAction(Qt::CopyAction);
     event->setAccepted(mayAct(*this) && !chartFileIn(*event->mimeData()).isEmpty());
@@ -251,15 +245,15 @@ void frmMain::dragMoveEvent(QDragMoveEvent* event) { considerDrop(event); }
 void frmMain::dropEvent(QDropEvent* event) {
     considerDrop(event);
     if (!event->isAccepted()) return;
-    // Queued, so that the sender need not wait for the chart.
+    // Queued, so that the sender does not wait for the chart.
     const auto open = [this, path = chartFileIn(*event->mimeData())] {
         if (mayAct(*this)) emit fileDropped(path);
     };
     QMetaObject::invokeMethod(this, open, Qt::QueuedConnection);
 }
 
-// Qt 6.8 still: QGroupBox swallows Enter where the desktop lets Enter press buttons, and the name box would
-// not cast.
+// Qt 6.8 still: where the desktop lets Enter press buttons, QGroupBox accepts it, and Enter in the name box
+// would not reach the default button.
 bool frmMain::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() != QEvent::KeyPress && event->type() != QEvent::KeyRelease)
         return QDialog::eventFilter(watched, event);
@@ -267,7 +261,7 @@ bool frmMain::eventFilter(QObject* watched, QEvent* event) {
     return true;
 }
 
-// Escape in the first window of the program would lose what was entered: it does nothing.
+// Escape does nothing: it would close the main window of the program and lose what was entered.
 void frmMain::reject() {}
 
 void frmMain::changeEvent(QEvent* event) {
@@ -275,16 +269,16 @@ void frmMain::changeEvent(QEvent* event) {
     if (event->type() == QEvent::FontChange) followFont();
 }
 
-// What is measured by the desktop's font, which may change.
+// Sets what depends on the size of the desktop's font, which may change.
 void frmMain::followFont() {
     lblBanner->setFont(look::titleFont());
-    for (QPushButton* button : {cmdGenerateChart, cmdOpen, cmExit})
+    for (QPushButton* button : findChildren<QPushButton*>())
         button->setMinimumHeight(fontMetrics().height() + 14);
     // Queued, because the layouts take the new sizes later.
     if (isVisible()) QMetaObject::invokeMethod(this, &frmMain::fitToScreen, Qt::QueuedConnection);
 }
 
-// Fitted anew each time: the screen may have changed while the form was hidden, or may change later.
+// Fits the form each time, because the screen may have changed while it was hidden.
 void frmMain::setVisible(bool visible) {
     if (visible) {
         fitToScreen();
@@ -295,14 +289,12 @@ void frmMain::setVisible(bool visible) {
     QDialog::setVisible(visible);
     if (visible)
         connect(windowHandle(), &QWindow::screenChanged, this, &frmMain::fitToScreen, Qt::UniqueConnection);
-    setAttribute(Qt::WA_KeyboardFocusChange);  // else some styles show the focus only after a key
+    setAttribute(Qt::WA_KeyboardFocusChange);  // else some styles show the focus only after a key press
 }
 
-// As large as its content, as far as the screen allows.
 void frmMain::fitToScreen() {
     const QSize room = screen()->availableSize() - QSize{16, 40};
-    // A little more than needed: the longest button gets room round its words, and at fractional scales,
-    // windows are rounded to whole device pixels.
+    // Room beside the text of the longest button, and for window sizes that are rounded to device pixels.
     constexpr QSize spare{24, 2};
     const QSize content = scroll_->widget()->sizeHint();
     scroll_->widget()->setMaximumWidth(content.width() * 5 / 4);

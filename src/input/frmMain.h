@@ -1,4 +1,4 @@
-// The input form: a name, a date and a time go in, checked, and are handed over.
+// The input form, in which the name, date and time of birth are entered and checked.
 #pragma once
 
 #include <QDialog>
@@ -8,7 +8,6 @@
 class BannerLink;
 class NameBox;
 class QComboBox;
-class QGridLayout;
 class QPushButton;
 class QScrollArea;
 struct ChartFileValues;
@@ -21,23 +20,19 @@ class frmMain : public QDialog {
 
     void setVisible(bool visible) override;
 
-    // Shows the form on the screen of the frame that it takes the place of.
+    // Shows the form on the screen of the frame that it replaces.
     void showInPlaceOf(const QWidget& frame);
 
-    // Fills in the name and the date of a chart file. A value that is no entry leaves its list as it was.
+    // Fills in the name and the date of a chart file. A value that is not in its list is ignored.
     void fillIn(const ChartFileValues& values);
 
-    // For a chart file that was opened with the program: checks what was filled in and moves the focus to the
-    // time of birth, which no chart file holds.
+    // Checks what fillIn() has filled in and moves the focus to the time of birth, which no chart file has.
     void askForTime();
 
-    // Selects the date for which the chart was cast, which the midnight rule may have moved.
+    // Selects the date of the chart, which the midnight rule may have changed.
     void showDate(const PickedDate& date);
 
-    // Says that no chart can be cast for the date.
-    void refuseDate();
-
-    // Empties the name and takes every list back to its first entry.
+    // Clears the name and selects the first entry of every list.
     void clearEntry();
 
   public slots:
@@ -46,9 +41,9 @@ class frmMain : public QDialog {
     void cmExit_Click();
 
   signals:
-    void entered(const BirthEntry& entry);  // has passed the check
+    void entered(const BirthEntry& entry);  // which has passed the check
     void openRequested();
-    void fileDropped(const QString& path);  // one with the ending of a chart file
+    void fileDropped(const QString& path);  // of a chart file
     void closed();
 
   protected:
@@ -70,7 +65,6 @@ class frmMain : public QDialog {
     QWidget* createBanner();
     QWidget* createDetails();
     QWidget* createButtons();
-    void addList(QGridLayout* grid, int row, int column, const char* heading, QComboBox* list);
     void txtName_KeyPress();
     bool passesCheck(const BirthEntry& birth);
     BirthEntry entry() const;
@@ -84,6 +78,4 @@ class frmMain : public QDialog {
     QComboBox* cmbHour;
     QComboBox* cmbMinute;
     QPushButton* cmdGenerateChart;
-    QPushButton* cmdOpen;
-    QPushButton* cmExit;
 };

@@ -1,4 +1,4 @@
-// What is checked of the birth data before a chart is cast.
+// The check of the birth data before a chart is cast.
 #pragma once
 
 #include <optional>
@@ -8,11 +8,11 @@
 
 enum class InputField { txtName, cmbDate };
 
-// What the person is told, and the field that takes the focus then.
+// The message to show, and the field that then gets the focus.
 struct InputFailure {
     std::string_view message;
     InputField field;
 };
 
-// The first failure, or nothing: the name must not be empty (blanks are enough), and the date must exist.
+// Returns the first failure: the name is empty (blanks are enough), or the date does not exist.
 std::optional<InputFailure> checkBirthEntry(const BirthEntry& entry);

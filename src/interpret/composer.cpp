@@ -34,7 +34,7 @@ void appendStar(Runs& runs, std::size_t star, std::size_t palace) {
     runs.push_back(paragraph(starInPalaceTexts[star][palace], starInPalaceBody));
 }
 
-// The index of the palace whose name stands in the cell, or one past the last where the name is not known.
+// The index of the palace whose name is in the cell, or palaceNames.size() if the name is unknown.
 std::size_t palaceIn(const ChartModel& chart, CellIndex cell) {
     const auto found = std::ranges::find(palaceNames, chart.cell(cell).lblPalace);
     return static_cast<std::size_t>(found - palaceNames.begin());

@@ -1,5 +1,5 @@
-// Puts the interpretation texts together for a palace. It reads the chart alone: the palace name that stands
-// in a cell, the Body Palace's cell and the recorded cells of the stars, never what is drawn.
+// Composes the analysis of a palace from the palace name in its cell, the Body Palace's cell and the recorded
+// cells of the stars. Flags and captions of stars play no part.
 #pragma once
 
 #include <vector>
@@ -7,14 +7,13 @@
 #include "chart/chart_model.h"
 #include "interpret/text_run.h"
 
-// The introduction, for the top of an analysis.
+// The introduction with which an analysis begins.
 TextRun introRun();
 
-// The runs of one palace: heading and description, the details line, the Body Palace, and a paragraph for
-// each star with texts that stands there. A cell outside 0..11 yields no runs. A palace name that is not
-// known yields neither palace part nor star paragraphs.
+// The runs of one palace, without the introduction: heading and description, the details line, the Body
+// Palace, and a paragraph for each star with texts. A cell outside 0..11 has no runs; an unknown palace name
+// gives neither description nor stars.
 std::vector<TextRun> composePalaceAnalysis(const ChartModel& chart, int cell);
 
-// The runs of all twelve palaces in the order of the cells, each followed by two empty lines. The
-// introduction is not among them.
+// The runs of all twelve palaces in the order of the cells, each followed by two empty lines.
 std::vector<TextRun> composeAllPalaces(const ChartModel& chart);

@@ -11,7 +11,7 @@ struct Rgb {
     friend constexpr bool operator==(const Rgb&, const Rgb&) = default;
 };
 
-// The colours of an analysis, which the windows take up.
+// The colours of an analysis, which the windows use, too.
 inline constexpr Rgb analysisBlue{13, 36, 166};
 inline constexpr Rgb analysisBrown{101, 14, 14};
 inline constexpr Rgb analysisRed{128, 0, 0};

@@ -1,5 +1,5 @@
-// The interpretation texts: what the palaces stand for, what the stars mean, and what a star means in a
-// palace. All are fixed English content; slips of spelling and trailing blanks in them are part of it.
+// The interpretation texts of palaces, of stars, and of stars in palaces. Intentional: their spelling
+// mistakes and trailing blanks.
 #pragma once
 
 #include <array>
@@ -19,7 +19,7 @@ struct PalaceText {
 };
 extern const std::array<PalaceText, palaceNames.size()> palaceTexts;
 
-// A star with texts, in the order in which an analysis takes them.
+// A star with texts, in the order in which an analysis lists them.
 struct StarText {
     Star star;
     std::string_view general;

@@ -1,4 +1,4 @@
-// The controls of all forms: how they are named, when they act, and what presses them.
+// What the controls of all forms share: their names, when they act, and how the keyboard presses them.
 #pragma once
 
 #include <QMenuBar>
@@ -8,20 +8,19 @@
 
 #include "style/text.h"
 
-// Gives the control its name and returns it.
+// Sets the object name and returns the control.
 template <class Control>
 Control* named(Control* control, std::string_view name) {
     control->setObjectName(latin(name));
     return control;
 }
 
-// Whether a form may act on its controls: it is visible, and no other modal dialog is open. Every handler is
-// connected through connectControl(), which asks, because input can be delivered late, when the form has
-// opened a dialog or is hidden: an access key, the second half of a double click, a press over the
-// accessibility bus.
+// Whether the form is visible and no other modal dialog is open. connectControl() checks it for every
+// handler, because input can arrive when the form is already hidden or has opened a dialog: an access key,
+// the second click of a double click, a press over the accessibility bus.
 bool mayAct(const QWidget& form);
 
-// Connects a control's signal to the form's handler, which is called only while the form may act.
+// Connects a control's signal to a handler of the form, which is called only if mayAct().
 template <class Sender, class Signal, class Form, class Handler>
 void connectControl(Sender* sender, Signal signal, Form* form, Handler handler,
                     Qt::ConnectionType type = Qt::AutoConnection) {
@@ -32,8 +31,8 @@ void connectControl(Sender* sender, Signal signal, Form* form, Handler handler,
 }
 
 // A button that Enter presses on every desktop. Qt 6.8 still: the access key of a QAbstractButton clicks only
-// after a tenth of a second, in which the next key still reaches the old window (Alt+B, then Enter on a
-// palace). Here it clicks at once.
+// after 100 ms, and a key pressed in that time still goes to the old window (Alt+B, then Enter on a palace).
+// Here it clicks immediately.
 class CommandButton : public QPushButton {
   public:
     explicit CommandButton(const char* caption, QWidget* parent = nullptr);
@@ -42,7 +41,7 @@ class CommandButton : public QPushButton {
     bool event(QEvent* event) override;
 };
 
-// A control that draws itself and is pressed like a button, by Enter too.
+// A button that paints itself in a subclass. Enter presses it, too.
 class PressArea : public QAbstractButton {
     Q_OBJECT
   public:
@@ -52,7 +51,7 @@ class PressArea : public QAbstractButton {
     void keyPressEvent(QKeyEvent* event) override;
 };
 
-// A named button with its caption and the form's handler.
+// A new button whose clicks call the form's handler.
 template <class Form, class Handler>
 QPushButton* newButton(const char* name, const char* caption, Form* form, Handler handler,
                        QWidget* parent = nullptr) {
@@ -61,8 +60,8 @@ QPushButton* newButton(const char* name, const char* caption, Form* form, Handle
     return button;
 }
 
-// Adds a named entry with its caption and the form's handler to a menu. The connection is queued, so that a
-// press over the accessibility bus is answered before a dialog opens.
+// Adds an entry that calls the form's handler. The connection is queued, so that a press over the
+// accessibility bus is answered before a dialog opens.
 template <class Form, class Handler>
 QAction* addEntry(QMenu* menu, const char* name, const char* caption, Form* form, Handler handler,
                   const QKeySequence& shortcut = {}) {
@@ -74,5 +73,5 @@ QAction* addEntry(QMenu* menu, const char* name, const char* caption, Form* form
 // A menu bar inside the window, without a context menu.
 QMenuBar* newMenuBar(QWidget* window);
 
-// Adds a named menu with its caption.
+// Adds a menu to the menu bar.
 QMenu* addMenu(QMenuBar* menus, const char* name, const char* caption);

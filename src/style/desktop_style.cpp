@@ -24,9 +24,9 @@ void DesktopStyle::polish(QPalette& palette) {
 int DesktopStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                             QStyleHintReturn* more) const {
     switch (hint) {
-        // Lists drop down below their box and scroll: 43 years may be more than a screen holds.
+        // Lists drop down below their box and scroll: 43 years may be higher than the screen.
         case SH_ComboBox_Popup:
-        // Qt 6.8 still: QMenuBar keeps the focus unseen after Escape, or after Alt alone.
+        // Qt 6.8 still: after Escape, or after Alt alone, QMenuBar keeps the focus without showing it.
         case SH_MenuBar_AltKeyNavigation:
             return 0;
         default:
@@ -34,8 +34,8 @@ int DesktopStyle::styleHint(StyleHint hint, const QStyleOption* option, const QW
     }
 }
 
-// Qt 6.8 still: QFusionStyle writes the title of an active QMdiSubWindow in white on the highlight colour,
-// with a shadow in the text colour, whatever these are on the desktop.
+// Qt 6.8 still: QFusionStyle draws the title of an active QMdiSubWindow in white on the highlight colour,
+// with a shadow in the text colour, even where that is illegible.
 void DesktopStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
                                       QPainter* painter, const QWidget* widget) const {
     const auto* title = qstyleoption_cast<const QStyleOptionTitleBar*>(option);
@@ -54,7 +54,7 @@ void DesktopStyle::drawControl(ControlElement element, const QStyleOption* optio
     const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option);
     if (element == CE_PushButton && button != nullptr && (option->state & State_HasFocus)) {
         QStyleOptionButton bare = *button;
-        bare.state &= ~State_HasFocus;  // without the style's own mark
+        bare.state &= ~State_HasFocus;  // instead of the style's own focus frame
         QProxyStyle::drawControl(element, &bare, painter, widget);
         return drawFocusFrame(*painter, option->rect, option->palette);
     }

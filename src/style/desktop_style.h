@@ -1,4 +1,4 @@
-// The desktop's style, with the few changes that the program needs on every desktop.
+// A proxy for the desktop's style, with what this program needs on every desktop.
 #pragma once
 
 #include <QProxyStyle>
@@ -8,7 +8,7 @@ class DesktopStyle : public QProxyStyle {
   public:
     using QProxyStyle::polish;
 
-    // Marks what has the focus by a frame that can be seen on the desktop's palette.
+    // Draws a focus frame that is visible on any palette.
     static void drawFocusFrame(QPainter& painter, const QRect& rect, const QPalette& palette);
 
     void polish(QPalette& palette) override;

@@ -9,17 +9,17 @@ namespace look {
 
 namespace {
 
-// Only the face that is there, for a look-up of one that is not takes time at every size.
-QStringList faces() {
+// Only an installed family: looking for a missing one takes time at every font size.
+QStringList families() {
     static const QString verdana = QStringLiteral("Verdana");
-    static const QStringList families{QFontDatabase::hasFamily(verdana) ? verdana
-                                                                        : QStringLiteral("DejaVu Sans")};
-    return families;
+    static const QStringList found{QFontDatabase::hasFamily(verdana) ? verdana
+                                                                     : QStringLiteral("DejaVu Sans")};
+    return found;
 }
 
 constexpr double legible = 4.5;
 
-// As the accessibility guidelines for the web (WCAG) reckon it: 0 is black and 1 is white.
+// The relative luminance of WCAG, from 0 for black to 1 for white.
 double luminance(const QColor& colour) {
     const auto part = [](double value) {
         return value <= 0.04045 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
@@ -31,14 +31,13 @@ double luminance(const QColor& colour) {
 
 QFont textFont(const QFont& like) {
     QFont font = like;
-    font.setFamilies(faces());
+    font.setFamilies(families());
     return font;
 }
 
-// Not hinted sideways, so that a text's width grows with the scale and the places of the labels hold for all.
+// Without horizontal hinting, so that text widths are in proportion and the labels fit at every scale.
 QFont chartFont(int pixelSize, bool bold) {
-    QFont font;
-    font.setFamilies(faces());
+    QFont font = textFont(QFont{});
     font.setPixelSize(pixelSize);
     font.setBold(bold);
     font.setHintingPreference(QFont::PreferVerticalHinting);

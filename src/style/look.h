@@ -1,4 +1,4 @@
-// The look that all windows share: one typeface, one set of colours, one measure for places.
+// The look that all windows share: typeface, colours, and twips as the unit of length.
 #pragma once
 
 #include <QColor>
@@ -13,7 +13,7 @@ namespace look {
 
 constexpr QColor colourOf(const Rgb& rgb) { return {rgb.red, rgb.green, rgb.blue}; }
 
-// The colours of text, and the light papers on which it is read, whatever the desktop's theme.
+// The colours of text, and of its light backgrounds, whatever the desktop's theme.
 inline constexpr QColor blue = colourOf(analysisBlue);
 inline constexpr QColor brown = colourOf(analysisBrown);
 inline constexpr QColor red = colourOf(analysisRed);
@@ -25,39 +25,35 @@ inline constexpr QColor paper{255, 252, 245};
 inline constexpr QColor titlePaper{250, 243, 230};
 inline constexpr QColor ground{240, 231, 214};
 
-// A length in twips as pixels at scale 1: an inch has 1440 twips and 96 pixels.
+// Pixels at scale 1, with 1440 twips and 96 pixels to the inch.
 constexpr double pixels(double twips) { return twips / 15; }
 
-// The font in the typeface for all text: Verdana, or the face that comes closest to it.
+// The font with Verdana as its family, or DejaVu Sans where that is not installed.
 QFont textFont(const QFont& like);
 
-// The same at a size in pixels, for text that is drawn to the chart's scale.
+// A font of that family for text that scales with the chart.
 QFont chartFont(int pixelSize, bool bold);
 
-// How well one colour can be read on the other, from 1 to 21, as the accessibility guidelines for the web
-// (WCAG) reckon it.
+// The contrast ratio of the Web Content Accessibility Guidelines (WCAG), from 1 to 21.
 double contrast(const QColor& one, const QColor& other);
 
-// The desktop's palette, with other colours for the selection where the desktop's own are hard to read, as white
-// on a light blue.
+// The desktop's palette, with other colours for the selection where its own have too little contrast.
 QPalette legibleSelection(const QPalette& desktop);
 
-// The palette for the title of an active QMdiSubWindow, which is white on the highlight colour: with one on which
-// white can be read, and a dark shadow.
+// The palette for the title of an active QMdiSubWindow: a highlight colour on which white is legible, and a
+// dark text colour for the shadow.
 QPalette legibleTitle(const QPalette& desktop);
 
-// The colour of the focus frame: the highlight colour, or where it does not stand out from what lies beside
-// it, the text's.
+// The colour of the focus frame: the highlight colour or, where it has too little contrast with the controls,
+// the text colour.
 QColor focusColour(const QPalette& palette);
 
-// Marks text that opens a page: the blue of the headings, or where that can't be read on the ground, the
-// desktop's own link colour.
+// The colour of a link on the widget: blue or, with too little contrast, the desktop's link or text colour.
 QColor linkColour(const QWidget& on);
 
-// Large and bold, for the product's name inside a window.
+// Large and bold, for the product's name in a window.
 QFont titleFont();
 
-// The product's name and its mark.
 QString productName();
 QIcon productIcon();
 

@@ -14,11 +14,16 @@ bool types(const QKeyEvent& event) {
 
 QString defaultTitle() { return look::productName() + QStringLiteral(" Message"); }
 
-// A message whose button ignores what is typed. mayAct() can't see to that: the button is the dialog's own,
-// and the blank of a person who types on would press it.
+// A message box with plain text. As an event filter of a button, it discards printable characters: mayAct()
+// does not cover the dialog's own button, and Space, typed on after the message has opened, would press it.
 class Message : public QMessageBox {
   public:
-    using QMessageBox::QMessageBox;
+    Message(QWidget* parent, Icon icon, const QString& title, const QString& text, StandardButtons buttons)
+        : QMessageBox(icon, title, QString{}, buttons, parent) {
+        setTextFormat(Qt::PlainText);
+        setText(text);
+        setAccessibleDescription(text);  // which a screen reader announces
+    }
 
   protected:
     bool eventFilter(QObject* watched, QEvent* event) override {
@@ -30,22 +35,13 @@ class Message : public QMessageBox {
 }  // namespace
 
 void showMessage(QWidget* parent, QMessageBox::Icon icon, const QString& text, const QString& title) {
-    Message box{icon, title.isEmpty() ? defaultTitle() : title, QString{}, QMessageBox::Ok, parent};
-    box.setTextFormat(Qt::PlainText);
-    box.setText(text);
-    box.setAccessibleDescription(text);  // a screen reader announces it
-    box.setWindowModality(Qt::ApplicationModal);
-    box.setEscapeButton(QMessageBox::Ok);
+    Message box{parent, icon, title.isEmpty() ? defaultTitle() : title, text, QMessageBox::Ok};
     box.button(QMessageBox::Ok)->installEventFilter(&box);
     box.exec();
 }
 
 bool askWhether(QWidget* parent, const QString& question) {
-    QMessageBox box{QMessageBox::Question, defaultTitle(), QString{}, QMessageBox::Yes | QMessageBox::No,
-                    parent};
-    box.setTextFormat(Qt::PlainText);
-    box.setText(question);
-    box.setAccessibleDescription(question);
+    Message box{parent, QMessageBox::Question, defaultTitle(), question, QMessageBox::Yes | QMessageBox::No};
     box.setDefaultButton(QMessageBox::No);
     return box.exec() == QMessageBox::Yes;
 }

@@ -1,13 +1,12 @@
-// The messages of the system: modal, plain text.
+// The modal messages of all forms. Their text is plain, never markup.
 #pragma once
 
 #include <QMessageBox>
 #include <QString>
 
-// Shows the text, never as markup, with one OK button, and returns when it is closed: by Enter, Escape or a
-// click, not by Space or a letter, so that who types on does not close it unread. Without a title it has that
-// of all messages.
+// Shows a message and returns when it is closed: by Enter, Escape or a click, but not by Space, so that a
+// person who is still typing does not close it unread. Without a title, it has the default one.
 void showMessage(QWidget* parent, QMessageBox::Icon icon, const QString& text, const QString& title = {});
 
-// Asks a question and returns whether the answer was Yes. No is the default.
+// Asks a question with the buttons Yes and No, the default, and returns whether the answer was Yes.
 bool askWhether(QWidget* parent, const QString& question);

@@ -1,11 +1,14 @@
-// The texts of the core as the toolkit's.
+// Texts of the core as a QString.
 #pragma once
 
 #include <QString>
 #include <string_view>
 
-// Each byte is a character of Latin-1.
-QString latin(std::string_view text);
+inline QString latin(std::string_view text) {
+    return QString::fromLatin1(text.data(), static_cast<qsizetype>(text.size()));
+}
 
-// The same, with CR LF as the one line break that labels and text views know.
-QString latinLines(std::string_view text);
+// With the line breaks that labels and text documents know, in place of CR LF.
+inline QString latinLines(std::string_view text) {
+    return latin(text).replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
+}
