@@ -1,11 +1,10 @@
-// Sees every key and click before the windows do, and passes over those that only go on with an earlier
-// press, so that what one press opened, the same press does not close.
+// An application-wide event filter: what a press has opened, the same press does not close.
 #pragma once
 
-#include <QElapsedTimer>
 #include <QObject>
 #include <QPointF>
 #include <QPointer>
+#include <QWindow>
 
 class QKeyEvent;
 class QMouseEvent;
@@ -15,18 +14,18 @@ class PressFilter : public QObject {
   public:
     using QObject::QObject;
 
-    // Passes over Enter and Space as long as they are held down, and over the second half of a double click
-    // whose first half went to another window.
+    // Discards the auto-repeat of Enter, and of Space outside text boxes; and the second half of a double
+    // click whose first half went to another window, unless it goes to a popup.
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
-    bool isHeldDown(const QKeyEvent& key) const;
-    bool isSecondHalf(const QMouseEvent& click, QObject* window);
+    bool isRepeated(const QKeyEvent& key) const;
+    bool isSecondHalf(const QMouseEvent& click, QWindow* window);
 
     int releasedKey_ = 0;
-    QElapsedTimer sinceRelease_;
-    QPointer<QObject> clickedWindow_;
-    quint64 clicked_ = 0;  // by the display's clock, in milliseconds
+    quint64 released_ = 0;  // timestamp in milliseconds
+    QPointer<QWindow> clickedWindow_;
+    quint64 clicked_ = 0;  // timestamp in milliseconds
     QPointF clickedPlace_;
-    bool passesOver_ = false;  // the click that is going on
+    bool discardsClick_ = false;  // the one that is going on
 };

@@ -34,7 +34,7 @@ ChartScale ChartScale::largestFor(const QSize& room, double devicePixelRatio) {
 
 int ChartScale::pixels(int twips) const {
     return static_cast<int>(
-        std::ceil(twips * minorPixels_ / (look::twipsPerPixel * naturalScale.minorPixels())));
+        std::ceil(look::pixels(static_cast<double>(twips) * minorPixels_ / naturalScale.minorPixels())));
 }
 
 int ChartScale::fontPixels(int pixelSize) const {

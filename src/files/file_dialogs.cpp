@@ -7,6 +7,7 @@
 
 #include "style/controls.h"
 #include "style/message.h"
+#include "style/platform.h"
 
 namespace {
 
@@ -19,30 +20,32 @@ class FileDialog : public QFileDialog {
         setAcceptMode(mode);
     }
 
+    // Returns the chosen path, or an empty text where the dialog was cancelled.
     QString ask() {
-        const QSize room = screen()->availableSize() - QSize{40, 60};
+        const QSize room = parentWidget()->screen()->availableSize() - QSize{40, 60};
         resize(sizeHint().expandedTo(QSize{720, 460}).boundedTo(room));
         const bool chosen = exec() == Accepted;
-        // Some window managers give the focus to nobody where two windows close at once.
-        if (parentWidget() != nullptr) parentWidget()->activateWindow();
+        // Some window managers of X11 give the focus to nobody where two windows close at once. Under Wayland
+        // the compositor gives it back, and asking for it crashes while the parent has no surface.
+        if (placesAreKnown()) parentWidget()->activateWindow();
         return chosen ? path_ : QString{};
     }
 
   protected:
-    // The name as it will be used, from the name as it was typed, which no folder has.
+    // The path that will be used, made of the one that was typed, which is not a folder's.
     virtual QString completed(const QString& path) const = 0;
 
-    // Why the file can't be used, or nothing where it can.
+    // Why the file can't be used; empty where it can.
     virtual QString obstacle(const QFileInfo& file) const = 0;
 
     // Whether the file may be replaced by another.
     virtual bool mayReplace(const QFileInfo&) { return true; }
 
-    // In place of the dialog's own check, which takes the suffix from the whole path, a quotation mark for
-    // the end of a name, a name for markup, and is silent where a name is too long (QFileDialog of Qt 6.4).
+    // Replaces the check of QFileDialog. Qt 6.8 still: it ends a name at a quotation mark, shows a name as
+    // markup, and says nothing where a name is too long.
     void accept() override {
         const auto* box = findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
-        const bool quoted = box->text().contains(QLatin1Char('"'));
+        const bool quoted = box != nullptr && box->text().contains(QLatin1Char('"'));
         const QString typed = quoted ? directory().absoluteFilePath(box->text()) : selectedFiles().value(0);
         if (QFileInfo{typed}.isDir()) return QFileDialog::accept();  // goes there
         path_ = completed(typed);
@@ -64,11 +67,10 @@ QString withExtension(const QString& path, const char* extension) {
 
 QString obstacleToNewFile(const QFileInfo& file) {
     const QFileInfo folder{file.absolutePath()};
-    if (!folder.isDir()) return QFileDialog::tr("The folder does not exist.");
-    if (file.isDir()) return QFileDialog::tr("This is the name of a folder.");
-    if (file.fileName().toUtf8().size() > longestName) return QFileDialog::tr("The name is too long.");
-    if (!file.exists() && !folder.isWritable())
-        return QFileDialog::tr("Nothing can be saved in this folder.");
+    if (!folder.isDir()) return QStringLiteral("The folder does not exist.");
+    if (file.isDir()) return QStringLiteral("This is the name of a folder.");
+    if (file.fileName().toUtf8().size() > longestName) return QStringLiteral("The name is too long.");
+    if (!file.exists() && !folder.isWritable()) return QStringLiteral("Nothing can be saved in this folder.");
     return {};
 }
 
@@ -84,7 +86,7 @@ class OpenDialog : public FileDialog {
         return QFileInfo::exists(path) ? path : path + QStringLiteral(".plf");
     }
     QString obstacle(const QFileInfo& file) const override {
-        return file.exists() ? QString{} : tr("There is no such file.");
+        return file.exists() ? QString{} : QStringLiteral("There is no such file.");
     }
 };
 
@@ -94,15 +96,17 @@ class SaveDialog : public FileDialog {
         : FileDialog(parent, AcceptSave, "Palace Lantern", "Palace Lantern (*.plf)") {}
 
   protected:
-    // The extension "txt" is kept on purpose.
+    // Intentional: the default extension is "txt".
     QString completed(const QString& path) const override { return withExtension(path, "txt"); }
     QString obstacle(const QFileInfo& file) const override {
         const bool closed = file.exists() && !file.isWritable();
-        return closed ? tr("This file is read-only.") : obstacleToNewFile(file);
+        return closed ? QStringLiteral("This file is read-only.") : obstacleToNewFile(file);
     }
     bool mayReplace(const QFileInfo& file) override {
         return !file.exists() ||
-               askWhether(this, tr("%1 already exists.\nDo you want to replace it?").arg(file.fileName()));
+               askWhether(
+                   this,
+                   QStringLiteral("%1 already exists.\nDo you want to replace it?").arg(file.fileName()));
     }
 };
 
@@ -117,7 +121,7 @@ class PictureDialog : public FileDialog {
     QString completed(const QString& path) const override { return withExtension(path, "jpg"); }
     QString obstacle(const QFileInfo& file) const override {
         const bool closed = file.exists() && !QFileInfo{file.absolutePath()}.isWritable();
-        return closed ? tr("Nothing can be saved in this folder.") : obstacleToNewFile(file);
+        return closed ? QStringLiteral("Nothing can be saved in this folder.") : obstacleToNewFile(file);
     }
 };
 

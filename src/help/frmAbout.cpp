@@ -21,15 +21,14 @@ QLabel* plainLabel(const QString& text, const char* name) {
 
 frmAbout::frmAbout(QWidget* parent) : QDialog(parent) {
     named(this, "frmAbout");
-    setWindowTitle(tr("About Palace Lantern"));
+    setWindowTitle(QStringLiteral("About Palace Lantern"));
     auto* mark = new QLabel;
-    mark->setAccessibleName(tr("Lantern"));
-    mark->setPixmap(
-        QIcon{QStringLiteral(":/icons/palace-lantern-128.png")}.pixmap(QSize{64, 64}, devicePixelRatioF()));
+    mark->setAccessibleName(QStringLiteral("Lantern"));
+    mark->setPixmap(look::productIcon().pixmap(QSize{64, 64}, devicePixelRatioF()));
     QLabel* product = plainLabel(look::productName(), "lblProduct");
     product->setFont(look::titleFont());
-    QLabel* purpose =
-        plainLabel(tr("Casts a Zi Wei Dou Shu birth chart and explains it in plain English."), "lblPurpose");
+    QLabel* purpose = plainLabel(
+        QStringLiteral("Casts a Zi Wei Dou Shu birth chart and explains it in plain English."), "lblPurpose");
     purpose->setWordWrap(true);
     purpose->setMinimumWidth(260);
     QPushButton* cmdOk = newButton("cmdOk", "&OK", this, &QDialog::accept);
@@ -44,8 +43,9 @@ frmAbout::frmAbout(QWidget* parent) : QDialog(parent) {
     grid->setHorizontalSpacing(16);
     grid->addWidget(mark, 0, 0, 3, 1, Qt::AlignTop);
     grid->addWidget(product, 0, 1);
-    grid->addWidget(plainLabel(tr("Version %1").arg(QStringLiteral(PALACE_LANTERN_VERSION)), "lblVersion"), 1,
-                    1);
+    grid->addWidget(
+        plainLabel(QStringLiteral("Version %1").arg(QStringLiteral(PALACE_LANTERN_VERSION)), "lblVersion"), 1,
+        1);
     grid->addWidget(purpose, 2, 1);
     grid->addWidget(cmdOk, 3, 1, Qt::AlignRight);
     cmdOk->setDefault(true);

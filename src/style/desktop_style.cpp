@@ -1,15 +1,26 @@
 #include "style/desktop_style.h"
 
-#include <QStyleOptionTitleBar>
+#include <QPainter>
+#include <QStyleOption>
 
 #include "style/look.h"
+
+void DesktopStyle::drawFocusFrame(QPainter& painter, const QRect& rect, const QPalette& palette) {
+    constexpr qreal width = 2, radius = 2;
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen{look::focusColour(palette), width});
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRoundedRect(QRectF{rect}.adjusted(1, 1, -1, -1), radius, radius);
+    painter.restore();
+}
 
 int DesktopStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                             QStyleHintReturn* more) const {
     switch (hint) {
         // Lists drop down below their box and scroll: 43 years may be more than a screen holds.
         case SH_ComboBox_Popup:
-        // QMenuBar of Qt 6.4 keeps the keyboard unseen after Escape, or after Alt alone.
+        // Qt 6.8 still: QMenuBar keeps the focus unseen after Escape, or after Alt alone.
         case SH_MenuBar_AltKeyNavigation:
             return 0;
         default:
@@ -17,14 +28,36 @@ int DesktopStyle::styleHint(StyleHint hint, const QStyleOption* option, const QW
     }
 }
 
-// The title of an active window within a window: QFusionStyle of Qt 6.4 writes it in white on the colour of
-// what is selected, with a shadow in the colour of text, whatever these are on the desktop.
+// Qt 6.8 still: QFusionStyle writes the title of an active QMdiSubWindow in white on the highlight colour,
+// with a shadow in the text colour, whatever these are on the desktop.
 void DesktopStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
                                       QPainter* painter, const QWidget* widget) const {
     const auto* title = qstyleoption_cast<const QStyleOptionTitleBar*>(option);
-    if (control != CC_TitleBar || title == nullptr || !(title->titleBarState & State_Active))
-        return QProxyStyle::drawComplexControl(control, option, painter, widget);
-    QStyleOptionTitleBar legible = *title;
-    legible.palette = look::legibleTitle(title->palette);
-    QProxyStyle::drawComplexControl(control, &legible, painter, widget);
+    if (control == CC_TitleBar && title != nullptr && (title->titleBarState & State_Active)) {
+        QStyleOptionTitleBar legible = *title;
+        legible.palette = look::legibleTitle(title->palette);
+        return QProxyStyle::drawComplexControl(control, &legible, painter, widget);
+    }
+    QProxyStyle::drawComplexControl(control, option, painter, widget);
+    if (control == CC_ComboBox && (option->state & State_HasFocus))
+        drawFocusFrame(*painter, option->rect, option->palette);
+}
+
+void DesktopStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                               const QWidget* widget) const {
+    const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option);
+    if (element != CE_PushButton || button == nullptr || !(option->state & State_HasFocus))
+        return QProxyStyle::drawControl(element, option, painter, widget);
+    QStyleOptionButton bare = *button;
+    bare.state &= ~State_HasFocus;  // without the style's own mark
+    QProxyStyle::drawControl(element, &bare, painter, widget);
+    drawFocusFrame(*painter, option->rect, option->palette);
+}
+
+void DesktopStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                                 const QWidget* widget) const {
+    QProxyStyle::drawPrimitive(element, option, painter, widget);
+    const auto* frame = qstyleoption_cast<const QStyleOptionFrame*>(option);
+    const bool framed = element == PE_PanelLineEdit && frame != nullptr && frame->lineWidth > 0;
+    if (framed && (option->state & State_HasFocus)) drawFocusFrame(*painter, option->rect, option->palette);
 }

@@ -22,7 +22,8 @@ inline constexpr QColor paper{255, 252, 245};
 inline constexpr QColor titlePaper{250, 243, 230};
 inline constexpr QColor ground{240, 231, 214};
 
-inline constexpr double twipsPerPixel = 15.0;  // 1440 twips and 96 pixels an inch
+// A length in twips as pixels at scale 1: an inch has 1440 twips and 96 pixels.
+constexpr double pixels(double twips) { return twips / 15; }
 
 // The font in the typeface for all text: Verdana, or the face that comes closest to it.
 QFont textFont(const QFont& like);
@@ -41,6 +42,10 @@ QPalette legibleSelection(const QPalette& desktop);
 // The palette for the title of an active window within a window, which is white on the colour of what is
 // selected: with a colour on which white can be read, and a dark shadow.
 QPalette legibleTitle(const QPalette& desktop);
+
+// The colour of the focus frame: the highlight colour, or where it does not stand out from what lies beside
+// it, the text's.
+QColor focusColour(const QPalette& palette);
 
 // Marks text that opens a page: the blue of the headings, or where that can't be read on the ground, the
 // desktop's own link colour.
