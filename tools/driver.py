@@ -20,6 +20,7 @@ PROJECT = pathlib.Path(__file__).resolve().parent.parent
 PROGRAM = PROJECT / "build" / "dev" / "app" / "palace-lantern"
 PATIENCE = 30  # seconds
 TITLE = "Palace Lantern"
+MESSAGE = "Palace Lantern Message"
 GENERATE = "Get My Palace Lantern Interpretation"
 OPEN = "Click Here To Open Previously Saved Palace Lantern Interpretation"
 CHART = "Palace Lantern Chart"
@@ -182,15 +183,14 @@ class Program(Control):
         """The newest first."""
         return super().children()[::-1]
 
-    def window(self, title=TITLE, role=None):
-        """The newest showing window of that title and role; waits for it to appear."""
+    def window(self, title=TITLE):
+        """The newest showing window of that title; waits for it to appear."""
         def look():
-            showing = (window for window in self.children() if window.has("SHOWING"))
-            return next((w for w in showing if w.name == title and role in (None, w.role)), None)
+            return next((w for w in self.children() if w.has("SHOWING") and w.name == title), None)
         return wait_until(look, f"the window '{title}'")
 
     def message(self):
-        return self.window(role="alert")
+        return self.window(MESSAGE)
 
     def palaces(self):
         """The cells of the chart; waits for it to appear."""

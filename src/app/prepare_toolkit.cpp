@@ -19,7 +19,6 @@ void prepareToolkit() {
     QPixmapCache::setCacheLimit(0);
     QApplication::setStyle(new DesktopStyle);
     QApplication::setFont(look::textFont(QApplication::font()));
-    QApplication::setPalette(look::legibleSelection(QApplication::palette()));
     QApplication::setWindowIcon(look::productIcon());
     qApp->installEventFilter(new PressFilter{qApp});
     installChartAccessibility();

@@ -7,7 +7,7 @@ namespace {
 
 constexpr int largestMinorPixels = 60;
 constexpr int smallestMinorPixels = 6;
-constexpr int scrolledMinorPixels = 7;  // a chart that scrolls in any case need not be as small as can be
+constexpr int scrolledMinorPixels = 7;  // a chart that scrolls anyway need not be at its smallest
 constexpr double smallestLegibleDots = 10;
 
 }  // namespace

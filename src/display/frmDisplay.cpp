@@ -33,7 +33,7 @@ QFont scaledFont(const ChartScale& scale, LabelKind kind) {
     return look::chartFont(scale.fontPixels(lookOf(kind).pixelSize), lookOf(kind).bold);
 }
 
-bool isOneLine(const CellLabel& label) { return label.longestText.find('\n') == std::string_view::npos; }
+bool isOneLine(std::size_t label) { return longestTextOf(label).find('\n') == std::string_view::npos; }
 
 // The room that a text needs in a font. Lines that follow one another are each rounded up to whole pixels; a
 // line by itself is not, so that it stays clear of the label below it.
@@ -125,18 +125,15 @@ void frmDisplay::createCell(CellIndex cell, const ChartCell& content) {
     CellLabels& labels = labels_[cell.index()];
     for (std::size_t i = 0; i < labels.size(); ++i) {
         labels[i] = createLabel(square, std::string{cellLabels[i].name} + index, cellLabels[i].kind);
-        // What a line can spare is above its letters.
-        labels[i]->setAlignment(Qt::AlignLeft | (isOneLine(cellLabels[i]) ? Qt::AlignBottom : Qt::AlignTop));
+        // A line's spare room is above its letters.
+        labels[i]->setAlignment(Qt::AlignLeft | (isOneLine(i) ? Qt::AlignBottom : Qt::AlignTop));
+        if (cellLabels[i].top == 0) labels[i]->setContentsMargins(0, 1, 0, 0);  // clear of the border
+        const CellField& field = labelFields[i];
+        const Caption& text = field.flag != nullptr ? field.text : content.*field.caption;
+        if (!text.empty()) labels[i]->setText(latinLines(text.text()));
+        if (field.flag != nullptr) labels[i]->setVisible(content.*field.flag);
     }
-    for (std::size_t i = 0; i < captionFields.size(); ++i) {
-        const Caption& caption = content.*captionFields[i].field;
-        if (!caption.empty()) labels[captionLabels[i]]->setText(latinLines(caption.text()));
-    }
-    for (std::size_t i = 0; i < flagFields.size(); ++i) {
-        labels[flagLabels[i]]->setText(latin(flagFields[i].text));
-        labels[flagLabels[i]]->setVisible(content.*flagFields[i].field);
-    }
-    holdsZiWei_[cell.index()] = content.lblEarthlyBranches != branchNames[cell.index()];
+    holdsZiWei_[cell.index()] = content.holds(Star::ZiWei);
     if (holdsZiWei_[cell.index()]) colour(labels[rowOf(cellLabels, "lblEarthlyBranches")], LabelKind::ziWei);
 }
 
@@ -213,7 +210,7 @@ void frmDisplay::placeCells() {
         const QFont font = scaledFont(scale_, label.kind);
         const QSize least{scale_.pixels(label.minimumWidth), 0};
         const QRect place{QPoint{scale_.pixels(label.left), scale_.pixels(label.top)},
-                          textSize(font, label.longestText).expandedTo(least)};
+                          textSize(font, longestTextOf(i)).expandedTo(least)};
         for (const CellLabels& labels : labels_) {
             if (!inheritsFont(label.kind)) labels[i]->setFont(font);
             labels[i]->setGeometry(place);

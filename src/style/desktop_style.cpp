@@ -15,6 +15,12 @@ void DesktopStyle::drawFocusFrame(QPainter& painter, const QRect& rect, const QP
     painter.restore();
 }
 
+// Called again whenever the desktop's palette changes.
+void DesktopStyle::polish(QPalette& palette) {
+    QProxyStyle::polish(palette);
+    palette = look::legibleSelection(palette);
+}
+
 int DesktopStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                             QStyleHintReturn* more) const {
     switch (hint) {
@@ -46,12 +52,22 @@ void DesktopStyle::drawComplexControl(ComplexControl control, const QStyleOption
 void DesktopStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
                                const QWidget* widget) const {
     const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option);
-    if (element != CE_PushButton || button == nullptr || !(option->state & State_HasFocus))
-        return QProxyStyle::drawControl(element, option, painter, widget);
-    QStyleOptionButton bare = *button;
-    bare.state &= ~State_HasFocus;  // without the style's own mark
-    QProxyStyle::drawControl(element, &bare, painter, widget);
-    drawFocusFrame(*painter, option->rect, option->palette);
+    if (element == CE_PushButton && button != nullptr && (option->state & State_HasFocus)) {
+        QStyleOptionButton bare = *button;
+        bare.state &= ~State_HasFocus;  // without the style's own mark
+        QProxyStyle::drawControl(element, &bare, painter, widget);
+        return drawFocusFrame(*painter, option->rect, option->palette);
+    }
+    QProxyStyle::drawControl(element, option, painter, widget);
+    // Qt 6.8 still: QFusionStyle draws the line below a menu bar in pieces, with gaps at a fractional device
+    // pixel ratio.
+    const bool ofMenuBar = element == CE_MenuBarItem || element == CE_MenuBarEmptyArea;
+    if (ofMenuBar && baseStyle()->name() == QStringLiteral("fusion")) {
+        const QColor ground = option->palette.color(QPalette::Window);
+        const QRect line{option->rect.bottomLeft(), QSize{option->rect.width(), 1}};
+        if (!(option->state & State_Selected)) painter->fillRect(line.adjusted(0, -1, 0, 0), ground);
+        painter->fillRect(line, ground.darker(120));
+    }
 }
 
 void DesktopStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,

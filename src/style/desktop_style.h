@@ -6,9 +6,12 @@
 class DesktopStyle : public QProxyStyle {
     Q_OBJECT
   public:
+    using QProxyStyle::polish;
+
     // Marks what has the focus by a frame that can be seen on the desktop's palette.
     static void drawFocusFrame(QPainter& painter, const QRect& rect, const QPalette& palette);
 
+    void polish(QPalette& palette) override;
     int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                   QStyleHintReturn* more) const override;
     void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,

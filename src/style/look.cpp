@@ -69,7 +69,7 @@ QColor linkColour(const QWidget& on) {
 }
 
 QPalette legibleSelection(const QPalette& desktop) {
-    QPalette palette;
+    QPalette palette = desktop;
     if (contrast(desktop.color(QPalette::Highlight), desktop.color(QPalette::HighlightedText)) >= legible)
         return palette;
     palette.setColor(QPalette::Highlight, blue);

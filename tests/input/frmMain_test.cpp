@@ -154,6 +154,7 @@ TEST_F(InputForm, TakesBackWhatWasTypedAndRepeatsBlanks) {
         EXPECT_EQ(press(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier), "ABC");
     };
     EXPECT_EQ(messagesOf(typeAndUndo), onlyLetters);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return name_->hasFocus(); }));
     press(Qt::Key_A, Qt::ControlModifier);
     EXPECT_EQ(press(Qt::Key_X, Qt::ControlModifier), "");
     EXPECT_EQ(QGuiApplication::clipboard()->text(), "ABC");
