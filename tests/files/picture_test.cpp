@@ -62,16 +62,17 @@ class Picture : public Program {
 
 TEST_F(Picture, ShowsTheChartAsOnTheScreenWithoutFocusAndPointer) {
     auto* client = find("frmDisplay")->findChild<QScrollArea*>();
-    const auto shownWithPointerAt = [client](QWidget* widget) {
+    QWidget* cell = find("lblCover(4)");
+    const auto shownWithPointerAt = [&](QWidget* widget) {
         QTest::mouseMove(widget, {2, 2});
-        QTest::qWait(200);                                                   // until all is painted
+        EXPECT_TRUE(QTest::qWaitFor([&] { return cell->underMouse() == (widget == cell); }));
         return client->grab({{}, client->size() - QSize{0, 40}}).toImage();  // without the hint
     };
     const QImage plain = shownWithPointerAt(find("frmMdi"));
-    find("lblCover(4)")->setFocus();
+    cell->setFocus();
     const QImage focused = shownWithPointerAt(find("frmMdi"));
     EXPECT_NE(focused, plain);
-    EXPECT_NE(shownWithPointerAt(find("lblCover(4)")), focused);
+    EXPECT_NE(shownWithPointerAt(cell), focused);
     EXPECT_EQ(save("chart"), QStringList{});
     EXPECT_GE(likeness(folder_ + "/chart.jpg", plain), 45);
     EXPECT_EQ(shownWithPointerAt(find("frmMdi")), focused);
