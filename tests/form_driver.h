@@ -122,6 +122,7 @@ class Program : public TemporaryFolder {
         choose("frmMain", "mnuGenerateChart");
         QWidget* frame = find("frmMdi");
         EXPECT_TRUE(QTest::qWaitForWindowActive(frame));
+        EXPECT_TRUE(QTest::qWaitFor([] { return find("cmdShowAll")->hasFocus(); }));
         // Window managers take their time to maximise; those that never do are not waited for.
         (void)QTest::qWaitFor([=] { return frame->frameGeometry() == frame->screen()->availableGeometry(); },
                               500);

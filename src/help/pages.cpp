@@ -27,7 +27,7 @@ QDir helpFolder() {
     const QDir program{QCoreApplication::applicationDirPath()};
     const QDir beside{program.filePath(QStringLiteral("help"))};
     return beside.exists() ? beside
-                           : QDir{program.filePath(QStringLiteral("../../share/palace-lantern/help"))};
+                           : QDir{program.filePath(QStringLiteral(PALACE_LANTERN_HELP_FOLDER))};
 }
 
 // xdg-open tells within seconds that it found no browser; a process that ends later was the browser.

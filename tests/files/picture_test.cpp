@@ -95,7 +95,9 @@ TEST_F(Picture, OverwritesNothingAndLeavesNothingBeside) {
         reinterpret_cast<decltype(&BmpToJpeg)>(QLibrary::resolve(converterPath(), "BmpToJpeg"));
     ASSERT_NE(convert, nullptr);
     write(folder_ + "/chart.bmp", "the person's own");
-    const std::string longest = std::string(251, 'n') + ".jpg", counted = std::string(247, 'n') + "_001.jpg";
+    std::string longest(251, 'n'), counted(247, 'n');
+    longest += ".jpg";
+    counted += "_001.jpg";
     for (const std::string& name : {std::string{"chart"}, std::string{"chart.png"}, longest, longest})
         EXPECT_EQ(save(name), QStringList{});
     messagesOf([] { click("cmdSavePicture"); });  // cancelled
