@@ -12,7 +12,7 @@ int main(int argc, char* argv[]) {
     if (qEnvironmentVariableIsEmpty("DISPLAY") && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     const QTemporaryDir settings;  // file dialogs remember where they were
-    qputenv("XDG_CONFIG_HOME", settings.path().toUtf8());
+    for (const char* kind : {"XDG_CONFIG_HOME", "XDG_DATA_HOME"}) qputenv(kind, settings.path().toUtf8());
     Toolkit toolkit{argc, argv};
     prepareToolkit();
     return RUN_ALL_TESTS();

@@ -33,7 +33,8 @@ class TemporaryFolder : public testing::Test {
         return found;
     }
 
-    // Runs the action while the folder takes no new files, and without the rights that root has to everything.
+    // Runs the action while the folder takes no new files, and without the rights that root has to
+    // everything.
     void inClosedFolder(const std::function<void()>& action) const {
         const uid_t own = ::getuid(), other = own == 0 ? 65534 : own;
         EXPECT_EQ(::chown(folder_.c_str(), other, ::getgid()) | ::chmod(folder_.c_str(), 0500), 0);

@@ -31,8 +31,7 @@ TEST_F(Start, NeedsTheConverterAsAFile) {
         return;
     }
     const auto told = [] { return messagesOf([] { EXPECT_FALSE(requiredFileIsPresent()); }); };
-    const QStringList missing{
-        "Palace Lantern Message|critical|Required File Is Missing\nPlease Reinstall Software"};
+    const QStringList missing{"critical|Required File Is Missing\nPlease Reinstall Software"};
     EXPECT_EQ(told(), missing);
     EXPECT_TRUE(QDir{}.mkdir(converterPath()));
     EXPECT_EQ(told(), missing);
@@ -46,14 +45,8 @@ TEST_F(Start, TakesOneChartFile) {
         EXPECT_EQ(QProcess::execute(PROGRAM_PATH, wrong), 1);
     const std::tuple<std::string, QStringList, QString, QString> files[]{
         {chart, {}, "JOHN SMITH 5 March 1985 0 0", "cmbHour"},
-        {empty,
-         {"Palace Lantern Message|information|Please Enter Your Name !"},
-         " 1 January 1970 0 0",
-         "txtName"},
-        {"/none.plf",
-         {"Palace Lantern Message|critical|Please Check The File."},
-         " 1 January 1970 0 0",
-         "txtName"},
+        {empty, {"information|Please Enter Your Name !"}, " 1 January 1970 0 0", "txtName"},
+        {"/none.plf", {"critical|Please Check The File."}, " 1 January 1970 0 0", "txtName"},
     };
     for (const auto& [file, messages, after, focus] : files) {
         Application application;
