@@ -84,8 +84,6 @@ void frmDisplay::createGround() {
     papers.setColor(QPalette::WindowText, look::ink);
     gfg->setPalette(papers);
     gfg->setAutoFillBackground(true);
-    gfg->setAttribute(Qt::WA_Hover);
-    gfg->installEventFilter(this);
     Frame1 = named(new ChartSquare{gfg}, "Frame1");
     Frame1->setAccessibleName(QStringLiteral("Chart"));
     lblCaption = createLabel(gfg, "lblCaption", LabelKind::hint);
@@ -250,7 +248,13 @@ void frmDisplay::showHint() {
     lblCaption->setText(latin(onCell ? cellHint : backgroundHint));
 }
 
-// gfg gets the hover moves over all of its children.
+// The top-level window gets the hover moves over all of its children.
+void frmDisplay::showEvent(QShowEvent* event) {
+    QWidget::showEvent(event);
+    window()->setAttribute(Qt::WA_Hover);
+    window()->installEventFilter(this);
+}
+
 bool frmDisplay::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() != QEvent::HoverMove) return QWidget::eventFilter(watched, event);
     keysLead_ = false;

@@ -44,6 +44,7 @@ class frmDisplay : public QWidget {
   protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
     bool focusNextPrevChild(bool next) override;
+    void showEvent(QShowEvent* event) override;
 
   private:
     using CellLabels = std::array<QLabel*, cellLabels.size()>;
