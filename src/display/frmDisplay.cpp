@@ -174,7 +174,8 @@ void frmDisplay::fillHeader(const ChartModel& chart, const BirthEntry& entry) {
 }
 
 QSize frmDisplay::fitInto(const QSize& room) {
-    const QSize menuRoom{0, menus_->sizeHint().height()};
+    // As high as the layout makes it, which in some styles is more than its size hint says.
+    const QSize menuRoom{0, menus_->heightForWidth(room.width())};
     const QSize chartRoom = room - menuRoom;
     applyScale(ChartScale::largestFor(chartRoom, devicePixelRatioF()));
     QSize needed = scale_.chartSize();
