@@ -6,5 +6,4 @@
 // Converts the BMP file `bmpPath` to the JPEG file `jpegPath`; both are in the file system's encoding.
 // `quality` is held within 1 to 100. Returns 1 on success and 0 on failure; the JPEG then appears whole
 // or, on failure, whatever was at `jpegPath` before stays as it was.
-extern "C" __attribute__((visibility("default"))) int BmpToJpeg(const char* bmpPath, const char* jpegPath,
-                                                                int quality) noexcept;
+extern "C" int BmpToJpeg(const char* bmpPath, const char* jpegPath, int quality) noexcept;
