@@ -1,39 +1,15 @@
-// Files as they come to the disk: chart files, and the picture of the chart, from the screen through the
-// converter, a module loaded at run time, to the file.
-
-#include <sys/resource.h>
+// The picture of the chart, from the screen through the converter, a module loaded at run time, to the file.
 
 #include <cmath>
-#include <csignal>
 
 #include "app/start_rules.h"
 #include "files/bmp2jpeg/bmp2jpeg.h"
-#include "files/chart_file.h"
 #include "files/picture_export.h"
-#include "files/saved_files.h"
 #include "form_driver.h"
 
 namespace {
 
 class SavedFile : public TemporaryFolder {};
-
-TEST_F(SavedFile, LeavesWhatWasThereWhereverTheDiskIsFull) {
-    const std::string bytes = chartFileBytes({u"JOHN SMITH", 1985, "March", 5}),
-                      path = folder_ + "/chart.plf";
-    write(path, "old");
-    std::signal(SIGXFSZ, SIG_IGN);
-    rlimit before{};
-    ::getrlimit(RLIMIT_FSIZE, &before);
-    for (std::size_t room = 0; room <= bytes.size(); ++room) {
-        const rlimit limit{room, before.rlim_max};
-        ::setrlimit(RLIMIT_FSIZE, &limit);
-        const bool saved = writeFile(QString::fromStdString(path), bytes);
-        ::setrlimit(RLIMIT_FSIZE, &before);
-        EXPECT_EQ(saved, room == bytes.size()) << room;
-        EXPECT_EQ(read(path), saved ? bytes : "old") << room;
-        EXPECT_EQ(names(), Names{"chart.plf"}) << room;
-    }
-}
 
 // How near the picture in the file comes to the other, as far as that goes: the peak signal-to-noise ratio in
 // decibels.
