@@ -56,6 +56,8 @@ at "$title Analysis" palace Escape
 at "$title" - alt+s
 at "$title Analysis" show-all ctrl+s
 at "$title" save "=$path.plf" Return
+at "$title Analysis" - ctrl+p
+at Print print ctrl+a "=$path.pdf" Return
 at "$title Analysis" - Escape
 at "$title" - alt+j
 at "Save as JPG" save-picture "=${path%/*}/星.jpg" Return
@@ -64,6 +66,7 @@ at "$title" back alt+e
 wait_for is_gone xdotool search --name "^$title"
 test -s "$drive${path#C:}.plf"
 identify "$drive/Ünïcode 星/星.jpg" | grep JPEG
+tail -c 6 "$drive${path#C:}.pdf" | grep %%EOF
 
 # The file opens by its type, in the one program that may run.
 wine start "$path.plf"

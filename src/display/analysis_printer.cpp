@@ -2,6 +2,7 @@
 
 #include <QAbstractTextDocumentLayout>
 #include <QDir>
+#include <QFileDialog>
 #include <QLineEdit>
 #include <QPageLayout>
 #include <QPainter>
@@ -100,6 +101,17 @@ void proposeFile(QPrintDialog& dialog, const QString& name) {
         box->setText(QDir{box->text()}.filePath(name + QStringLiteral(".pdf")));
 }
 
+// Whether the person wants to print. The dialog of Windows, which has no layout, does not open where there is
+// no printer (QPrintDialog of Qt 6.4): the page goes to a file there.
+bool isWanted(QPrintDialog& dialog, QPrinter& printer) {
+    if (dialog.layout() != nullptr || printer.outputFormat() == QPrinter::NativeFormat)
+        return dialog.exec() == QDialog::Accepted;
+    const QString name = printer.docName() + QStringLiteral(".pdf");
+    printer.setOutputFileName(QFileDialog::getSaveFileName(dialog.parentWidget(), QFileDialog::tr("Print"),
+                                                           name, QStringLiteral("PDF (*.pdf)")));
+    return !printer.outputFileName().isEmpty();
+}
+
 }  // namespace
 
 void printOnPaper(const QTextDocument& text, QPrinter& printer) {
@@ -137,5 +149,5 @@ void printAnalysis(const std::vector<TextRun>& runs, int start, int end, QWidget
     if (auto* all = dialog.findChild<QRadioButton*>(QStringLiteral("printAll"))) all->setEnabled(!selected);
     takeAway(dialog, hidden);
     proposeFile(dialog, printer.docName());
-    if (dialog.exec() == QDialog::Accepted) printOnPaper(*printedPart(runs, start, end), printer);
+    if (isWanted(dialog, printer)) printOnPaper(*printedPart(runs, start, end), printer);
 }
