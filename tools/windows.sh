@@ -33,13 +33,17 @@ cross_build() {
 }
 
 build_libraries() {
-    local off="opengl dynamicgl vulkan direct2d sql network dbus xml concurrent freetype gif ico tabletevent
+    local library off="opengl dynamicgl vulkan direct2d sql network dbus xml concurrent freetype gif ico tabletevent
         accessibility_atspi_bridge graphicsview graphicseffect undocommand wizard calendarwidget splashscreen
         dockwidget columnview datawidgetmapper fontdialog colordialog systemtrayicon"
     cross_build "$folder"/qt6-base-*/ -DQT_HOST_PATH=/usr -DINPUT_opengl=no $(printf ' -DFEATURE_%s=OFF' $off) \
         -DQT_HOST_PATH_CMAKE_DIR="/usr/lib/$(dpkg-architecture -qDEB_HOST_MULTIARCH)/cmake"
     cross_build "$folder"/libjpeg-turbo-*/ -DENABLE_SHARED=OFF -DWITH_SIMD=OFF
     cp -r /usr/src/googletest "$folder" && cross_build "$folder/googletest"
+    for library in libstdc++-6 libgcc_s_seh-1 libssp-0 libwinpthread-1; do  # the compiler's own
+        x86_64-w64-mingw32-strip -o "$folder/libraries/bin/$library.dll" \
+            "$(x86_64-w64-mingw32-g++-posix -print-file-name=$library.dll)"
+    done
     install -D -t "$folder/libraries/licences" "$folder"/qt6-base-*/LICENSES/{LGPL,GPL}-3.0-only.txt \
         "$folder"/libjpeg-turbo-*/LICENSE.md
 }

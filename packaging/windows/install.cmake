@@ -20,11 +20,8 @@ install(TARGETS palace-lantern Bmp2Jpeg RUNTIME DESTINATION . LIBRARY DESTINATIO
 foreach(library Core Gui Widgets PrintSupport)
     install(FILES $<TARGET_FILE:Qt6::${library}> DESTINATION .)
 endforeach()
-foreach(library libstdc++-6 libgcc_s_seh-1 libwinpthread-1)
-    execute_process(COMMAND ${CMAKE_CXX_COMPILER} -print-file-name=${library}.dll OUTPUT_VARIABLE file
-                    OUTPUT_STRIP_TRAILING_WHITESPACE COMMAND_ERROR_IS_FATAL ANY)
-    install(FILES ${file} DESTINATION .)
-endforeach()
+file(GLOB compilers_own ${PROJECT_BINARY_DIR}/libraries/bin/lib*.dll)
+install(FILES ${compilers_own} DESTINATION .)
 install(FILES $<TARGET_FILE:Qt6::QWindowsIntegrationPlugin> DESTINATION platforms)
 install(FILES $<TARGET_FILE:Qt6::QWindowsVistaStylePlugin> DESTINATION styles)
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/help ${PROJECT_BINARY_DIR}/libraries/licences DESTINATION .)
