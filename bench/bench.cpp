@@ -353,7 +353,7 @@ int main(int argc, char* argv[]) {
     std::setvbuf(stdout, nullptr, _IOLBF, 0);
     if (wants("core")) benchCore();
     if (wants("starts")) benchStarts();
-    QApplication toolkit{argc, argv};
+    Toolkit toolkit{argc, argv};
     QApplication::setQuitOnLastWindowClosed(false);
     prepareToolkit();
     if (wants("windows")) Windows{}.bench();

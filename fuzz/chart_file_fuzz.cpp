@@ -50,7 +50,8 @@ void mustBeWhole(const ChartModel& chart) {
         must(std::count_if(all.begin(), all.end(), isHeading) == 1);
     };
     for (const PalaceText& palace : palaceTexts) mustHaveOnce(palace.heading);
-    for (const StarText& star : starTexts) mustHaveOnce(star.heading);
+    for (const StarText& star : starTexts)
+        mustHaveOnce(std::string{fieldOf(star.star).text.text()} + " Star :- ");
     must(chart.cell(chart.lifePalace).lblPalace.text() == "Life Palace");
     must(chart.cell(chart.bodyPalace).lblBody.text() == "* Body");
     must(chart.lunarMonth >= 0 && chart.lunarMonth <= 12 && chart.doubleHour >= 1 && chart.doubleHour <= 12);
@@ -61,7 +62,7 @@ bool cast(const BirthEntry& entry, ChartModel& chart) {
     if (checkBirthEntry(entry)) return false;
     const auto date = generateChart(entry, chart);
     if (!date) return false;
-    must(date->day() <= date->monthLength() && date->yearPosition < yearCount);
+    must(date->exists() && date->yearPosition < yearCount);
     mustBeWhole(chart);
     const ChartFileValues file = chartFileValues(chartFileBytes(chart.input));
     must(wide(file.name) == chart.input.name && file.month == chart.input.month);

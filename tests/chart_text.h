@@ -39,13 +39,16 @@ inline void addLabel(std::string& line, std::string_view name, std::string text)
     line += text;
 }
 
-// Palace, stem and branch, and then everything else that stands in the cell.
+// What a label shows of a cell.
+inline std::string shownIn(const ChartCell& cell, const CellField& field) {
+    if (field.flag != nullptr) return cell.*field.flag ? std::string{field.text.text()} : "";
+    return std::string{(cell.*field.caption).text()};
+}
+
+// Palace and stem, and then everything else that stands in the cell.
 inline std::string cellLine(const ChartModel& chart, CellIndex cell) {
     std::string line;
-    for (const auto& [name, field] : captionFields)
-        addLabel(line, name, std::string{(chart.cell(cell).*field).text()});
-    for (const auto& [name, field, text] : flagFields)
-        if (chart.cell(cell).*field) addLabel(line, name, std::string{text});
+    for (const CellField& field : cellFields) addLabel(line, field.name, shownIn(chart.cell(cell), field));
     return line;
 }
 
@@ -67,13 +70,13 @@ inline const std::array<HandChart, 4> handCharts{{
       "Siblings, Ren, Wu, MajorStars=Lian Zhen, TianFu=Tian Xiang, Di Jie, Ba Zuo, En Guang",
       "Life Palace, Wood/Gui, Wei, TianFu=Tian Liang, Hua Quan",
       "Parents, Jia, Shen, TianFu=Qi Sha, San Tai, Jie Shen, TianYueTwo=Tian Yue, TianFutwo=Tian Fu",
-      "Fortune, Yi, You, MajorStars=Tian Tong, Body=* Body, Feng Gao, Tian Xing",
+      "Fortune, Yi, Body=* Body, You, MajorStars=Tian Tong, Feng Gao, Tian Xing",
       "Property, Bing, Xu, MajorStars=Wu Qu, You Bi, Tian Yue",
       "Career, Ding, Hai, MajorStars=Tai Yang, WenQi=Wen Qu",
       "Friends, Wu, Zi, TianFu=Po Jun, Tian Kui",
       "Travel, Ji, Chou, MajorStars=Tian Ji, Tai Fu, Tian Yao, Hua Lu"}},
     {birth("29.2.1992", 0, 0), "29 February 1992: 1 Yin Yin Metal Ren",  // midnight: cast for 1 March
-     {"Life Palace, Metal/Ren, Yin, Body=* Body, Feng Gao, Yin Sha",
+     {"Life Palace, Metal/Ren, Body=* Body, Yin, Feng Gao, Yin Sha",
       "Parents, Gui, Mao, MajorStars=Lian Zhen, TianFu=Po Jun, Tian Gui, Tian Kui",
       "Fortune, Jia, Chen, WenQi=Wen Qu, Zuo Fu, San Tai, Hua ke",
       "Property, Yi, Si, Tian Fu, Tian Wu, TianYueTwo=Tian Yue",
@@ -89,7 +92,7 @@ inline const std::array<HandChart, 4> handCharts{{
      {"Property, Ren, Yin, Di Kong, Jie Shen, Tian Wu, Yin Sha, TianYueTwo=Tian Yue, Tian Guan",
       "Career, Gui, Mao, MajorStars=Lian Zhen, TianFu=Po Jun, Tai Fu, Tian Xing",
       "Friends, Jia, Chen, You Bi, San Tai",
-      "Travel, Yi, Si, Tian Fu, Body=* Body, Qing Yang",
+      "Travel, Yi, Body=* Body, Si, Tian Fu, Qing Yang",
       "Health, Bing, Wu, MajorStars=Tian Tong, TianFu=Tai Yin, En Guang, Tian Gui, Lu Cun, Tian Kui, Hua Lu, Hua Quan",
       "Wealth, Ding, Wei, MajorStars=Wu Qu, TianFu=Tan Lang, Tian Yao, Tuo Luo",
       "Children, Wu, Shen, MajorStars=Tai Yang, TianFu=Ju Men, Di Jie, Hua Ji",
@@ -105,7 +108,7 @@ inline const std::array<HandChart, 4> handCharts{{
       "Children, Gui, Si, TianFu=Tian Xiang, Lu Cun, Tian Guan",
       "Marriage, Jia, Wu, TianFu=Tian Liang, Tai Fu, Tuo Luo, Tian Kui",
       "Siblings, Yi, Wei, MajorStars=Lian Zhen, TianFu=Qi Sha, Tian Yao, Tian Gui, Hua Ji",
-      "Life Palace, Fire/Bing, Shen, Body=* Body",
+      "Life Palace, Fire/Bing, Body=* Body, Shen",
       "Parents, Ding, You",
       "Fortune, Wu, Xu, MajorStars=Tian Tong, Wen Chang, Zuo Fu, Hua Lu, Hua ke",
       "Property, Ji, Hai, MajorStars=Wu Qu, TianFu=Po Jun, Di Jie, Di Kong, Tian Yue",

@@ -62,25 +62,26 @@ inline int withModals(const std::function<void()>& action, const std::function<v
     return count;
 }
 
-// The messages that `action` brings up, as "title|icon|text", each closed by Escape, a question by the
-// answer. A file dialog among them is given the path or, without one, cancelled; one that stays is, too.
-inline QStringList messagesOf(const std::function<void()>& action, const std::string& path = {},
-                              QMessageBox::StandardButton answer = QMessageBox::No) {
+// The messages that `action` brings up, as "title|icon|text", each closed by Escape, a question by Enter,
+// which means No, or by Yes. A file dialog among them is given what is to be typed, one text after another,
+// and is cancelled where it stays.
+inline QStringList messagesOf(const std::function<void()>& action, const std::vector<std::string>& typed = {},
+                              bool yes = false) {
     const QStringList icons{"none", "information", "warning", "critical", "question"};
     QStringList seen;
-    bool given = path.empty();
+    auto next = typed.begin();
     withModals(action, [&](QWidget& window) {
         if (const auto* box = qobject_cast<QMessageBox*>(&window)) {
             EXPECT_EQ(box->textFormat(), Qt::PlainText);
             seen += QStringList{box->windowTitle(), icons[box->icon()], box->text()}.join("|");
-            if (box->icon() == QMessageBox::Question) return box->button(answer)->click();
-        } else if (auto* name = window.findChild<QLineEdit*>("fileNameEdit"); !given) {
-            given = true;
+            if (box->icon() == QMessageBox::Question && yes) return box->button(QMessageBox::Yes)->click();
+            if (box->icon() == QMessageBox::Question) return QTest::keyClick(&window, Qt::Key_Return);
+        } else if (auto* name = window.findChild<QLineEdit*>("fileNameEdit"); next != typed.end()) {
             EXPECT_TRUE(QTest::qWaitFor([name] { return name->hasFocus(); }));
-            name->setText(QString::fromStdString(path));
+            name->setText(QString::fromStdString(*next++));
             return QTest::keyClick(name, Qt::Key_Return);
-        } else if (!path.empty()) {
-            seen += name->text().toStdString() == path ? "stays" : "loses the name";
+        } else if (!typed.empty()) {
+            seen += name->text().toStdString() == typed.back() ? "stays" : "loses the name";
         }
         QTest::keyClick(&window, Qt::Key_Escape);
     });
@@ -116,8 +117,9 @@ class Program : public TemporaryFolder {
     // Casts the first of the charts worked out by hand, or another one.
     static void showChart(const std::string& date = "5.3.1985", int hour = 13, int minute = 1) {
         enter("JOHN SMITH", date, hour, minute);
-        click("cmdGenerateChart");
+        choose("frmMain", "mnuGenerateChart");
         EXPECT_TRUE(QTest::qWaitForWindowActive(find("frmMdi")));
+        EXPECT_TRUE(QTest::qWaitFor([] { return find("cmdShowAll")->hasFocus(); }));
     }
 
     Application application_;

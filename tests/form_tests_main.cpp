@@ -9,10 +9,11 @@
 
 int main(int argc, char* argv[]) {
     testing::InitGoogleTest(&argc, argv);
-    if (qEnvironmentVariableIsEmpty("DISPLAY")) qputenv("QT_QPA_PLATFORM", "offscreen");
+    if (qEnvironmentVariableIsEmpty("DISPLAY") && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
     const QTemporaryDir settings;  // file dialogs remember where they were
     qputenv("XDG_CONFIG_HOME", settings.path().toUtf8());
-    QApplication toolkit{argc, argv};
+    Toolkit toolkit{argc, argv};
     prepareToolkit();
     return RUN_ALL_TESTS();
 }

@@ -47,9 +47,9 @@ program=$(echo "$drive"/users/*/AppData/Local/Programs/"$title")
 front=
 at "$title Setup " setup-done Return
 at "$title" empty =mei1
-at "$title" refused-key Return
+at "$title Message" refused-key Return
 at "$title" - "= ling" Tab =30 Tab =February Tab =1988 Tab =9 Tab =30 Return
-at "$title" refused-date Return
+at "$title Message" refused-date Return
 at "$title" input =14 Return
 at "$title" chart Tab Tab Tab Return
 at "$title Analysis" palace Escape
@@ -72,7 +72,7 @@ tail -c 6 "$drive${path#C:}.pdf" | grep %%EOF
 wine start "$path.plf"
 at "$title" - F6
 wine start "$path.plf"
-at "$title" second Return
+at "$title Message" second Return
 at "$title" opened =9 Tab =30 Return
 at "$title" chart-again alt+h a
 compare -metric AE pictures/chart.png pictures/chart-again.png null:

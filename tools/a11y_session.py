@@ -9,7 +9,7 @@ usage: a11y_session.py [PROGRAM]
 import re
 import sys
 
-from driver import ABOUT, ANALYSIS, CHART, GENERATE, Program, expect, play, press, type_text, wait_until
+from driver import ABOUT, ANALYSIS, CHART, GENERATE, TITLE, Program, expect, play, press, type_text, wait_until
 
 INTERACTIVE = {"push button", "combo box", "text", "menu item", "check box", "radio button", "link"}
 BIRTH = {"Date": "14", "Month": "February", "Year": "1988", "Hour": "9", "Minutes": "30"}
@@ -91,7 +91,7 @@ def fill_in(program):
 def read_chart(program):
     """The chart: twelve palaces, each a button with a sentence for a name"""
     cells = [(cell.name, CELL.fullmatch(cell.name)) for cell in program.palaces()]
-    check_names(program.window())
+    check_names(program.window(f"{TITLE} - MEI LING"))
     for name, sentence in cells:
         expect(sentence, f"this is no sentence about a palace: '{name}'")
     stars = {star for _, sentence in cells for star in (sentence["stars"] or "").split(", ") if star}

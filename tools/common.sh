@@ -18,9 +18,14 @@ install_packages() {
         as_root env DEBIAN_FRONTEND=noninteractive apt-get -q -y install --no-install-recommends "$@"
 }
 
-# Installs whatever of the named packages is not there yet, and is silent and quick where nothing is missing.
+# Installs whatever of the named packages is not there yet, and is silent and quick where nothing is missing. A
+# system without apt-get has them under names of its own; what is missing there, the next command tells.
 ensure_packages() {
     local installed package missing=()
+    if ! command -v apt-get >/dev/null; then
+        echo "Needed, by Debian's names: $*"
+        return
+    fi
     installed=$(dpkg-query -W -f='${Package} ${db:Status-Status}\n' "$@" 2>/dev/null || true)
     for package in "$@"; do
         grep -qx "$package installed" <<<"$installed" || missing+=("$package")

@@ -20,6 +20,7 @@ PROJECT = pathlib.Path(__file__).resolve().parent.parent
 PROGRAM = PROJECT / "build" / "dev" / "app" / "palace-lantern"
 PATIENCE = 30  # seconds
 TITLE = "Palace Lantern"
+MESSAGE = "Palace Lantern Message"
 GENERATE = "Get My Palace Lantern Interpretation"
 OPEN = "Click Here To Open Previously Saved Palace Lantern Interpretation"
 CHART = "Palace Lantern Chart"
@@ -68,7 +69,8 @@ class Control:
 
     @property
     def role(self):
-        return self.node.get_role_name()
+        name = self.node.get_role_name()
+        return "push button" if name == "button" else name  # newer libraries' word for it
 
     @property
     def caption(self):
@@ -85,16 +87,15 @@ class Control:
     @property
     def rectangle(self):
         """Left, top, width and height on the screen."""
-        place = self.node.get_component_iface().get_extents(Atspi.CoordType.SCREEN)
+        place = Atspi.Component.get_extents(self.node, Atspi.CoordType.SCREEN)
         return tuple(round(length * self.scale) for length in (place.x, place.y, place.width, place.height))
 
     @property
     def text(self):
-        text = self.node.get_text_iface()
-        return text.get_text(0, text.get_character_count())
+        return Atspi.Text.get_text(self.node, 0, Atspi.Text.get_character_count(self.node))
 
     def set_text(self, text):
-        self.node.get_editable_text_iface().set_text_contents(text)
+        Atspi.EditableText.set_text_contents(self.node, text)
         self.wait_text(text)
 
     def wait_text(self, text):
@@ -133,10 +134,9 @@ class Control:
         return wait_until(look, f"{role} '{name or ''}' in '{self.name}'")
 
     def do(self, action):
-        offered = self.node.get_action_iface()
-        names = [offered.get_action_name(i) for i in range(offered.get_n_actions())]
+        names = [Atspi.Action.get_action_name(self.node, i) for i in range(Atspi.Action.get_n_actions(self.node))]
         expect(action in names, f"{self.role} '{self.name}' offers {names}, not {action}")
-        offered.do_action(names.index(action))
+        Atspi.Action.do_action(self.node, names.index(action))
 
     def press_ok(self):
         """Closes a dialog by its button, over the bus."""
@@ -182,15 +182,14 @@ class Program(Control):
         """The newest first."""
         return super().children()[::-1]
 
-    def window(self, title=TITLE, role=None):
-        """The newest showing window of that title and role; waits for it to appear."""
+    def window(self, title=TITLE):
+        """The newest showing window of that title; waits for it to appear."""
         def look():
-            showing = (window for window in self.children() if window.has("SHOWING"))
-            return next((w for w in showing if w.name == title and role in (None, w.role)), None)
+            return next((w for w in self.children() if w.has("SHOWING") and w.name == title), None)
         return wait_until(look, f"the window '{title}'")
 
     def message(self):
-        return self.window(role="alert")
+        return self.window(MESSAGE)
 
     def palaces(self):
         """The cells of the chart; waits for it to appear."""

@@ -8,7 +8,7 @@ usage: sample_session.py FOLDER [PROGRAM]   where FOLDER is for the pictures
 import sys
 import unicodedata
 
-from driver import (ABOUT, ANALYSIS, CHART, GENERATE, OPEN, TITLE, Program, expect, play, press, run, type_text,
+from driver import (ABOUT, ANALYSIS, CHART, GENERATE, MESSAGE, OPEN, TITLE, Program, expect, play, press, run, type_text,
                     wait_until)
 
 
@@ -17,7 +17,7 @@ def expect_message(program, text, picture):
     message = program.message()
     told = message.find("label").name
     expect(told == text, f"the message says '{told}', not '{text}'")
-    program.picture(TITLE, picture)
+    program.picture(MESSAGE, picture)
     press("Return")
     message.wait_closed()
 
@@ -99,7 +99,7 @@ def generate_by_enter(program):
         expect(text in labels, f"the chart does not show '{text}': {labels}")
     program.palaces()
     run("xdotool", "mousemove", 2, 200)
-    program.picture(TITLE, "chart")
+    program.picture(f"{TITLE} - MEI LING", "chart")
 
 
 def open_palace_by_click(program):

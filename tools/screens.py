@@ -15,7 +15,7 @@ import pathlib
 import subprocess
 import sys
 
-from driver import ABOUT, ANALYSIS, GENERATE, PROJECT, Program, expect, play, press, take_picture
+from driver import ABOUT, ANALYSIS, GENERATE, PROJECT, TITLE, Program, expect, play, press, take_picture
 
 SIZES = ("1366x768", "1920x1080", "2560x1440", "3840x2160")
 SCALES = ("1", "1.25", "1.5", "2", "3")
@@ -98,7 +98,7 @@ def tour(size, scale, palette):
         program.find("text", "Name").set_text("ALEXANDRA MEI LING")
         generate.do("Press")
         palaces = program.palaces()
-        look("chart", program.window())
+        look("chart", program.window(f"{TITLE} - ALEXANDRA MEI LING"))
         for name, button in (("analysis", palaces[0]), ("show-all", program.find("push button", "Show All"))):
             button.do("Press")
             analysis = program.window(ANALYSIS)

@@ -13,19 +13,43 @@
 #include "files/saved_files.h"
 #include "input/frmMain.h"
 #include "interpret/composer.h"
+#include "style/message.h"
 
 Application::Application() : input_(std::make_unique<frmMain>()) {
     connect(input_.get(), &frmMain::entered, this, &Application::castChart);
+    connect(input_.get(), &frmMain::openRequested, this, &Application::askForAndOpenChart);
+    connect(input_.get(), &frmMain::fileDropped, this, &Application::openAndCastChart);
     connect(input_.get(), &frmMain::closed, this, &Application::unloadAll);
 }
 
 Application::~Application() = default;
 
+// A chart at once would be one for midnight, and so for the day after: the time of birth comes first.
 void Application::start(const QString& chartFile) {
-    const bool opensFile = !chartFile.isEmpty();
-    if (opensFile) input_->askForTime();
     input_->show();
-    if (opensFile && !input_->fillFrom(chartFile)) input_->clearEntry();
+    if (!chartFile.isEmpty() && openChart(chartFile)) input_->askForTime();
+}
+
+void Application::askForAndOpenChart() {
+    const QString path = askForChartFile(input_.get());
+    if (!path.isEmpty()) openAndCastChart(path);
+}
+
+void Application::openAndCastChart(const QString& path) {
+    if (openChart(path)) input_->cmdGenerateChart_Click();
+}
+
+// Fills the form in from a chart file and returns whether the file could be read. If not, the form stays as
+// it is.
+bool Application::openChart(const QString& path) {
+    const auto bytes =
+        hasChartFileEnding(path.toStdString()) ? readFile(path, longestChartFile) : std::nullopt;
+    if (bytes) {
+        input_->fillIn(chartFileValues(*bytes));
+    } else {
+        showMessage(input_.get(), QMessageBox::Critical, QStringLiteral("Please Check The File."));
+    }
+    return bytes.has_value();
 }
 
 void Application::castChart(const BirthEntry& entry) {
@@ -37,10 +61,11 @@ void Application::castChart(const BirthEntry& entry) {
 
 void Application::showChart(const BirthEntry& entry) {
     auto* display = new frmDisplay{chart_, entry};
-    frame_ = std::make_unique<frmMdi>(display, [display](QSize room) { return display->fitInto(room); });
+    frame_ = std::make_unique<frmMdi>(display, QString::fromStdU16String(chart_.input.name),
+                                      [display](QSize room) { return display->fitInto(room); });
     connectChart(display);
-    frame_->showInPlaceOf(*input_);
     input_->hide();
+    frame_->showInPlaceOf(*input_);
 }
 
 void Application::connectChart(frmDisplay* display) {
@@ -67,29 +92,28 @@ void Application::openPalace(int cell) {
 
 void Application::openAllPalaces() { openAnalysis(AnalysisKind::allPalaces, composeAllPalaces(chart_)); }
 
-// Made anew for each opening, and gone when it is closed.
 void Application::openAnalysis(AnalysisKind kind, const std::vector<TextRun>& palaceRuns) {
     std::vector<TextRun> runs{introRun()};
     runs.insert(runs.end(), palaceRuns.begin(), palaceRuns.end());
-    frmPalaceAnalysis analysis{kind, runs, textSize_, frame_.get()};
+    frmPalaceAnalysis analysis{kind, runs, analysisView_, frame_.get()};
     connect(&analysis, &frmPalaceAnalysis::saveRequested, this, [this, &analysis] { saveChart(&analysis); });
-    connect(&analysis, &frmPalaceAnalysis::textSizeChosen, this,
-            [this](int percent) { textSize_ = percent; });
     analysis.exec();
+    analysisView_ = analysis.view();
 }
 
+// Intentional: a save that the disk refuses ends in silence.
 void Application::saveChart(QWidget* parent) {
     const QString path = askWhereToSaveChart(parent);
-    if (!path.isEmpty()) writeFile(path, chartFileBytes(chart_.input));
+    if (!path.isEmpty()) static_cast<void>(writeFile(path, chartFileBytes(chart_.input)));
 }
 
-// The frame goes later, since it is one of its own buttons or menus that asks for it.
+// The frame is deleted later, because one of its own controls asks for it.
 void Application::cmdBack_Click() {
     input_->clearEntry();
     frame_->hide();
+    input_->showInPlaceOf(*frame_);
     frame_.release()->deleteLater();
     chart_.loadCells();
-    input_->show();
 }
 
 void Application::unloadAll() {

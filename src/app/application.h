@@ -1,4 +1,4 @@
-// The wiring of the forms: it owns the chart, and what each form asks for by a signal is done here.
+// Owns the chart, opens and saves its files, and does what the forms ask for by their signals.
 #pragma once
 
 #include <QObject>
@@ -7,6 +7,7 @@
 
 #include "chart/birth_entry.h"
 #include "chart/chart_model.h"
+#include "display/analysis_view.h"
 #include "interpret/text_run.h"
 
 class QWidget;
@@ -21,13 +22,16 @@ class Application : public QObject {
     Application();
     ~Application() override;
 
-    // Shows the input form, filled from a chart file if one is given.
+    // Shows the input form, filled in from a chart file if one is given.
     void start(const QString& chartFile = {});
 
     // Closes every open form, one after another, and ends the program.
     static void unloadAll();
 
   private:
+    void askForAndOpenChart();
+    void openAndCastChart(const QString& path);
+    bool openChart(const QString& path);
     void castChart(const BirthEntry& entry);
     void showChart(const BirthEntry& entry);
     void connectChart(frmDisplay* display);
@@ -39,6 +43,6 @@ class Application : public QObject {
 
     ChartModel chart_;
     std::unique_ptr<frmMain> input_;
-    std::unique_ptr<frmMdi> frame_;  // there while a chart is shown
-    int textSize_ = 100;             // of analyses, in per cent
+    std::unique_ptr<frmMdi> frame_;  // while a chart is shown
+    AnalysisView analysisView_;      // as the last analysis was left
 };

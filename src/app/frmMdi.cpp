@@ -12,10 +12,11 @@
 #include "help/banner_link.h"
 #include "style/controls.h"
 #include "style/look.h"
+#include "style/platform.h"
 
 namespace {
 
-constexpr int pixels(int twips) { return qRound(twips / look::twipsPerPixel); }
+constexpr int pixels(int twips) { return qRound(look::pixels(twips)); }
 
 constexpr int buttonWidth = 1215;  // twips
 constexpr QSize buttonSize{pixels(buttonWidth), pixels(390)};
@@ -24,14 +25,16 @@ constexpr int stripMargin = pixels(75);
 // Room for the strip in two rows, and for as much of a chart as can be read while it scrolls.
 constexpr QSize leastSize{400, 360};
 
+constexpr int longestTitle = 100;  // characters of a name, which may be a very long one
+
 }  // namespace
 
-frmMdi::frmMdi(QWidget* chart, std::function<QSize(QSize)> fit) : fit_(std::move(fit)) {
+frmMdi::frmMdi(QWidget* chart, const QString& person, std::function<QSize(QSize)> fit)
+    : fit_(std::move(fit)) {
     named(this, "frmMdi");
-    setWindowTitle(look::productName());
+    setWindowTitle(look::productName() + QStringLiteral(" - ") + person.left(longestTitle));
     createStrip();
     area_ = new QMdiArea;
-    area_->setBackground(palette().color(QPalette::Window).darker(112));
     area_->setFocusPolicy(Qt::NoFocus);
     auto* content = new QWidget;
     auto* rows = new QVBoxLayout{content};
@@ -41,8 +44,11 @@ frmMdi::frmMdi(QWidget* chart, std::function<QSize(QSize)> fit) : fit_(std::move
     rows->addWidget(area_);
     setCentralWidget(content);
     hostChart(chart);
+    followPalette();
     MDIForm_Load();
 }
+
+void frmMdi::followPalette() { area_->setBackground(palette().color(QPalette::Window).darker(112)); }
 
 void frmMdi::MDIForm_Load() { placeStrip(); }
 
@@ -57,7 +63,7 @@ void frmMdi::createStrip() {
     cmdShowAll = newButton("cmdShowAll", "&Show All", this, &frmMdi::showAllRequested, Picture2);
     cmdBack = newButton("cmdBack", "&Back", this, &frmMdi::backRequested, Picture2);
     cmdMdiExit = newButton("cmdMdiExit", "&Exit", this, &frmMdi::cmdMdiExit_Click, Picture2);
-    // Their width is fixed by their places, so their text does not grow with the desktop's.
+    // Their places fix their width, so their text keeps its size whatever the desktop's font is.
     for (QPushButton* button : {cmdSavePicture, cmdShowAll, cmdBack, cmdMdiExit}) {
         QFont small = button->font();
         small.setPixelSize(11);
@@ -69,22 +75,22 @@ void frmMdi::hostChart(QWidget* chart) {
     chartWindow_ = area_->addSubWindow(chart, Qt::SubWindow | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
                                                   Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint);
     chartWindow_->setAttribute(Qt::WA_DeleteOnClose, false);
-    chartWindow_->setSystemMenu(nullptr);  // whose keys would end the program
+    chartWindow_->setSystemMenu(nullptr);  // its Ctrl+W and Ctrl+F4 would end the program
     chartWindow_->setFocusPolicy(Qt::NoFocus);
     chartWindow_->setWindowIcon(windowIcon());
     chartWindow_->installEventFilter(this);
     area_->viewport()->installEventFilter(this);
-    // The keys of the chart window's menus are heard only while the focus is in that window; here,
-    // everywhere.
+    // A shortcut of the chart window works only while the focus is in that window; as the frame's own,
+    // always.
     for (QAction* entry : chart->findChildren<QAction*>()) {
         if (!entry->shortcut().isEmpty()) addAction(entry);
     }
-    // The chart window takes the focus when it is shown; it belongs to the strip until a person moves it.
+    // Queued, because the chart window takes the focus when it is shown.
     QMetaObject::invokeMethod(cmdShowAll, qOverload<>(&QWidget::setFocus), Qt::QueuedConnection);
 }
 
-// As large to begin with as it will be with the border that the form has, so that the chart is painted once;
-// and it fills the screen where no window manager maximises.
+// The size that the maximised frame will have comes first, so that the chart is laid out and painted once;
+// and where no window manager maximises, it stays.
 void frmMdi::showInPlaceOf(const QWidget& form) {
     const QRect room = form.screen()->availableGeometry();
     setMinimumSize(leastSize.boundedTo(room.size() - QSize{16, 40}));
@@ -93,13 +99,18 @@ void frmMdi::showInPlaceOf(const QWidget& form) {
     showMaximized();
 }
 
-// Made smaller for the first time, the frame takes a size that differs from the maximised one. While it is
-// being shown, some window managers take the state away and give it again.
+// Restored for the first time, the frame would take the size of the screen, which it had before it was
+// maximised. An inactive frame is left alone: while it is shown, some window managers restore it for a
+// moment.
 void frmMdi::changeEvent(QEvent* event) {
     QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange) followPalette();
+    // Queued, because the menu bar takes the new font later.
+    if (event->type() == QEvent::FontChange && isVisible())
+        QMetaObject::invokeMethod(this, &frmMdi::placeChart, Qt::QueuedConnection);
     if (event->type() != QEvent::WindowStateChange || isMaximized() || isMinimized() || !isActiveWindow())
         return;
-    if (!std::exchange(fillsScreen_, false)) return;
+    if (std::exchange(wasRestored_, true)) return;
     const QRect room = screen()->availableGeometry();
     QRect smaller{QPoint{}, room.size() * 3 / 4};
     smaller.moveCenter(room.center());
@@ -112,31 +123,38 @@ void frmMdi::focusStrip(bool first) {
     first ? lblBanner->setFocus(Qt::TabFocusReason) : cmdMdiExit->setFocus(Qt::BacktabFocusReason);
 }
 
-// How far the frame's inside is from the screen's left edge; where nobody knows, as if it lay in the middle.
+bool frmMdi::fillsScreen() const {
+    const QRect room = screen()->availableGeometry();
+    return isMaximized() || isFullScreen() || (placesAreKnown() && frameGeometry().contains(room));
+}
+
+// How far the frame's inside is from the screen's left edge. Where places are not known, the frame counts as
+// centred on the screen.
 int frmMdi::leftOnScreen() const {
     const QRect place = screen()->geometry();
     return placesAreKnown() ? geometry().x() - place.x() : (place.width() - width()) / 2;
 }
 
-// The edge from which the buttons' places count, in the frame: the screen's where the frame reaches it, else
-// the frame's own.
+// The edge that the buttons' places count from, in the frame: the screen's where the maximised frame reaches
+// it, else the frame's own.
 int frmMdi::rightEdge() const {
-    const bool reaches = placesAreKnown() && frameGeometry().right() >= screen()->geometry().right();
-    return reaches ? screen()->geometry().width() - leftOnScreen() : width();
+    const QRect place = screen()->geometry();
+    const bool reaches = placesAreKnown() && fillsScreen() && frameGeometry().right() >= place.right();
+    return reaches ? place.width() - leftOnScreen() : width();
 }
 
-// The left edge, in the frame, of something of that width that is centred on the screen, but wholly inside
-// the frame.
-int frmMdi::centredOnScreen(int width) const {
-    const int left = (screen()->geometry().width() - width) / 2 - leftOnScreen();
-    return std::max(0, std::min(left, this->width() - width));
+// The left edge, in the frame, of something of that width: centred on the screen while the frame fills it,
+// else in the frame; but always inside the frame.
+int frmMdi::centredLeft(int width) const {
+    const int middle = fillsScreen() ? screen()->geometry().width() / 2 - leftOnScreen() : this->width() / 2;
+    return std::clamp(middle - width / 2, 0, std::max(0, this->width() - width));
 }
 
-// The buttons' distances from the edge are in twips; the middle gap is wider than the others, on purpose.
+// The buttons' distances from the edge are in twips. Intentional: the middle gap is wider than the others.
 // Where the banner would meet the buttons, these move down to a row of their own.
 void frmMdi::placeStrip() {
     const auto leftAt = [edge = rightEdge()](int distance) { return edge - pixels(buttonWidth + distance); };
-    const int bannerLeft = centredOnScreen(lblBanner->width());
+    const int bannerLeft = centredLeft(lblBanner->width());
     const bool narrow = bannerLeft + lblBanner->width() + stripMargin > leftAt(4280);
     const int rowHeight = std::max(buttonSize.height(), lblBanner->height());
     const int secondRow = narrow ? lblBanner->height() : 0;
@@ -155,10 +173,10 @@ void frmMdi::placeChart() {
     const QSize decoration{border.left() + border.right(), border.top() + border.bottom()};
     const QSize size = fit_(room - decoration) + decoration;
     chartWindow_->setFixedSize(size);
-    chartWindow_->move(centredOnScreen(size.width()), std::max(0, (room.height() - size.height()) / 2));
+    chartWindow_->move(centredLeft(size.width()), std::max(0, (room.height() - size.height()) / 2));
 }
 
-// The chart is placed when its area first gets a size, and not before.
+// Where the screen's edges count, they move in the frame. Before the frame is visible, its area has no size.
 void frmMdi::moveEvent(QMoveEvent* event) {
     QMainWindow::moveEvent(event);
     if (!isVisible()) return;
@@ -169,11 +187,11 @@ void frmMdi::moveEvent(QMoveEvent* event) {
 void frmMdi::resizeEvent(QResizeEvent* event) {
     QMainWindow::resizeEvent(event);
     placeStrip();
-    // At once, or what the strip gives to the chart or takes from it is painted twice.
+    // At once, or the chart is painted twice where the strip changes its height.
     centralWidget()->layout()->activate();
 }
 
-// Closing the chart window by its title bar is Exit, as closing the frame is; a double click on its icon is
+// Closing the chart window by its title bar is Exit, as closing the frame is. A double click on its icon is
 // not.
 bool frmMdi::eventFilter(QObject* watched, QEvent* event) {
     if (watched == chartWindow_ && event->type() == QEvent::MouseButtonDblClick) return true;
@@ -182,12 +200,12 @@ bool frmMdi::eventFilter(QObject* watched, QEvent* event) {
         cmdMdiExit_Click();
         return true;
     }
-    // At once, before the frame is painted at its new size, or all would be painted twice.
+    // At once, before the frame is painted at its new size, or all is painted twice.
     if (watched == area_->viewport() && event->type() == QEvent::Resize) placeChart();
     return QMainWindow::eventFilter(watched, event);
 }
 
-// The chart window's menus hear their access keys only while the focus is in that window.
+// The access keys of the chart window's menus work only while the focus is in that window.
 void frmMdi::keyPressEvent(QKeyEvent* event) {
     if (event->modifiers() == Qt::AltModifier) emit menuKeyPressed(event->key());
     QMainWindow::keyPressEvent(event);

@@ -12,14 +12,14 @@ class QPushButton;
 class frmMdi : public QMainWindow {
     Q_OBJECT
   public:
-    // Takes the chart window in. `fit` is told how much room there is and returns the size that the window
-    // takes.
-    frmMdi(QWidget* chart, std::function<QSize(QSize)> fit);
+    // Takes ownership of the chart window. The person's name is for the title. `fit` is called with the room
+    // that there is, in pixels, and returns the size that the chart window takes.
+    frmMdi(QWidget* chart, const QString& person, std::function<QSize(QSize)> fit);
 
-    // Shows the frame maximised on the form's screen.
+    // Shows the frame maximised on the screen of the form that it takes the place of.
     void showInPlaceOf(const QWidget& form);
 
-    // Puts the focus on the strip's first control, or on its last.
+    // Moves the focus to the strip's first control, or to its last.
     void focusStrip(bool first);
 
   public slots:
@@ -30,7 +30,7 @@ class frmMdi : public QMainWindow {
     void showAllRequested();
     void backRequested();
     void closed();
-    void menuKeyPressed(int key);  // a letter with Alt that no control of the frame answers to
+    void menuKeyPressed(int key);  // with Alt, and no access key of the frame's own
 
   protected:
     void changeEvent(QEvent* event) override;
@@ -44,11 +44,13 @@ class frmMdi : public QMainWindow {
     void MDIForm_Load();
     void createStrip();
     void hostChart(QWidget* chart);
+    void followPalette();
     void placeStrip();
     void placeChart();
+    bool fillsScreen() const;
     int leftOnScreen() const;
     int rightEdge() const;
-    int centredOnScreen(int width) const;
+    int centredLeft(int width) const;
 
     QWidget* Picture2;
     BannerLink* lblBanner;
@@ -59,5 +61,5 @@ class frmMdi : public QMainWindow {
     QMdiArea* area_;
     QMdiSubWindow* chartWindow_ = nullptr;
     std::function<QSize(QSize)> fit_;
-    bool fillsScreen_ = true;  // whatever its state, until it is first made smaller
+    bool wasRestored_ = false;  // from its maximised state
 };

@@ -33,7 +33,7 @@ QString chartFileOf(const QApplication& toolkit) {
 }  // namespace
 
 int main(int argc, char* argv[]) {
-    QApplication toolkit{argc, argv};
+    Toolkit toolkit{argc, argv};
     prepareToolkit();
     const QString file = chartFileOf(toolkit);
     const SingleInstance instance;

@@ -1,12 +1,28 @@
 #include "app/prepare_toolkit.h"
 
-#include <QApplication>
+#include <QEvent>
+#include <QFontDatabase>
 #include <QPixmapCache>
 
-#include "app/press_filter.h"
 #include "display/chart_accessibility.h"
 #include "style/desktop_style.h"
 #include "style/look.h"
+
+namespace {
+
+// The program's typeface in the size that the desktop has now.
+void useDesktopFont() {
+    const QFont font = look::textFont(QFontDatabase::systemFont(QFontDatabase::GeneralFont));
+    if (font != QApplication::font()) QApplication::setFont(font);
+}
+
+}  // namespace
+
+bool Toolkit::notify(QObject* receiver, QEvent* event) {
+    if (presses_.discards(receiver, event)) return true;
+    if (event->type() == QEvent::ThemeChange) useDesktopFont();
+    return QApplication::notify(receiver, event);
+}
 
 void prepareToolkit() {
     QApplication::setApplicationName(QStringLiteral("palace-lantern"));
@@ -14,13 +30,10 @@ void prepareToolkit() {
     QApplication::setDesktopFileName(QStringLiteral("palace-lantern"));
     QApplication::setQuitOnLastWindowClosed(false);
     QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
-    // Else the toolkit keeps a picture of each scroll bar that it draws, and every text has one of its own
-    // length.
+    // The style would cache a picture of each scroll bar, and every text has one of its own length.
     QPixmapCache::setCacheLimit(0);
     QApplication::setStyle(new DesktopStyle);
-    QApplication::setFont(look::textFont(QApplication::font()));
-    QApplication::setPalette(look::legibleSelection(QApplication::palette()));
+    useDesktopFont();
     QApplication::setWindowIcon(look::productIcon());
-    qApp->installEventFilter(new PressFilter{qApp});
     installChartAccessibility();
 }

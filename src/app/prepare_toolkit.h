@@ -1,6 +1,21 @@
-// What the toolkit is told once for the whole program.
+// The QApplication of the program, and what is set up once for all of its windows.
 #pragma once
 
-// Sets the program's name, its font, colours, icon and style, the toolkit's own dialogs on every desktop, and
-// how the chart is told to a screen reader. To be called once, when the QApplication has been made.
+#include <QApplication>
+
+#include "app/press_filter.h"
+
+class Toolkit : public QApplication {
+    Q_OBJECT
+  public:
+    using QApplication::QApplication;
+
+    bool notify(QObject* receiver, QEvent* event) override;
+
+  private:
+    PressFilter presses_;
+};
+
+// Sets the program's name, font, icon and style, dialogs that are Qt's own on every desktop, and the chart's
+// accessibility. The Toolkit must exist.
 void prepareToolkit();

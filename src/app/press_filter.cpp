@@ -3,43 +3,61 @@
 #include <QApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QWidget>
 #include <utility>
 
-#include "style/controls.h"
+#include "style/platform.h"
 
-bool PressFilter::eventFilter(QObject* watched, QEvent* event) {
-    if (!watched->isWindowType()) return false;
+namespace {
+
+bool entersText(const QWidget* widget) {
+    return widget != nullptr && widget->testAttribute(Qt::WA_InputMethodEnabled);
+}
+
+}  // namespace
+
+bool PressFilter::discards(QObject* receiver, QEvent* event) {
+    auto* window = qobject_cast<QWindow*>(receiver);
+    if (window == nullptr) return false;
     switch (event->type()) {
         case QEvent::KeyRelease:
+            if (static_cast<QKeyEvent*>(event)->timestamp() == 0) return false;
             releasedKey_ = static_cast<QKeyEvent*>(event)->key();
-            sinceRelease_.start();
+            released_ = static_cast<QKeyEvent*>(event)->timestamp();
             return false;
         case QEvent::KeyPress:
-            return isHeldDown(*static_cast<QKeyEvent*>(event));
+            return isRepeated(*static_cast<QKeyEvent*>(event));
         case QEvent::MouseButtonPress:
-            passesOver_ = isSecondHalf(*static_cast<QMouseEvent*>(event), watched);
-            return passesOver_;
+            discardsClick_ = isSecondHalf(*static_cast<QMouseEvent*>(event), window);
+            return discardsClick_;
         case QEvent::MouseButtonDblClick:
-            return passesOver_;
+            return discardsClick_;
         default:
             return false;
     }
 }
 
-// The X server reports a held key as released and pressed again at once, and Qt 6.4 does not always notice.
-bool PressFilter::isHeldDown(const QKeyEvent& key) const {
-    constexpr qint64 atOnce = 25;  // milliseconds; no hand is as quick
+// Qt 6.8 still: under X11, where auto-repeat comes as a release and a press at once, isAutoRepeat() is often
+// false.
+bool PressFilter::isRepeated(const QKeyEvent& key) const {
+    constexpr quint64 atOnce = 2;  // milliseconds; no hand is as quick
     const int code = key.key();
     const bool enter = code == Qt::Key_Return || code == Qt::Key_Enter;
-    const bool goesOn = enter && code == releasedKey_ && sinceRelease_.elapsed() < atOnce;
-    return goesOn || (key.isAutoRepeat() && (enter || code == Qt::Key_Space));
+    const bool space = code == Qt::Key_Space && !entersText(QApplication::focusWidget());
+    const bool follows = code == releasedKey_ && key.timestamp() - released_ <= atOnce;
+    const bool repeated = key.isAutoRepeat() || (key.timestamp() != 0 && follows);
+    return (enter || space) && repeated;
 }
 
-bool PressFilter::isSecondHalf(const QMouseEvent& click, QObject* window) {
-    const QObject* before = std::exchange(clickedWindow_, window);
+// Where the places of windows are not known, those of a popup and of the window below it still are, each
+// relative to the other; of other windows the time alone decides.
+bool PressFilter::isSecondHalf(const QMouseEvent& click, QWindow* window) {
+    const QWindow* before = std::exchange(clickedWindow_, window);
     const quint64 time = click.timestamp() - std::exchange(clicked_, click.timestamp());
     const QPointF way = click.globalPosition() - std::exchange(clickedPlace_, click.globalPosition());
-    const bool near = !placesAreKnown() || way.manhattanLength() <= QApplication::startDragDistance();
-    return before != nullptr && before != window && near &&
+    if (before == nullptr || before == window || window->type() == Qt::Popup) return false;
+    const bool fromPopup = before->type() == Qt::Popup && before->transientParent() == window;
+    const bool near = way.manhattanLength() <= QApplication::startDragDistance();
+    return (near || !(placesAreKnown() || fromPopup)) &&
            time < static_cast<quint64>(QApplication::doubleClickInterval());
 }

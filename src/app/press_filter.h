@@ -1,32 +1,30 @@
-// Sees every key and click before the windows do, and passes over those that only go on with an earlier
-// press, so that what one press opened, the same press does not close.
+// What a press has opened, the same press does not close.
 #pragma once
 
-#include <QElapsedTimer>
 #include <QObject>
 #include <QPointF>
 #include <QPointer>
+#include <QWindow>
 
 class QKeyEvent;
 class QMouseEvent;
 
-class PressFilter : public QObject {
-    Q_OBJECT
+class PressFilter {
   public:
-    using QObject::QObject;
-
-    // Passes over Enter and Space as long as they are held down, and over the second half of a double click
-    // whose first half went to another window.
-    bool eventFilter(QObject* watched, QEvent* event) override;
+    // Whether the event must not be delivered to its receiver: the auto-repeat of Enter, and of Space outside
+    // text boxes; the second half of a double click whose first half went to another window, unless it goes
+    // to a popup. To be called before any event filter: while assistive technology listens, Qt's own filter
+    // replaces each key event by one without a timestamp.
+    bool discards(QObject* receiver, QEvent* event);
 
   private:
-    bool isHeldDown(const QKeyEvent& key) const;
-    bool isSecondHalf(const QMouseEvent& click, QObject* window);
+    bool isRepeated(const QKeyEvent& key) const;
+    bool isSecondHalf(const QMouseEvent& click, QWindow* window);
 
     int releasedKey_ = 0;
-    QElapsedTimer sinceRelease_;
-    QPointer<QObject> clickedWindow_;
-    quint64 clicked_ = 0;  // by the display's clock, in milliseconds
+    quint64 released_ = 0;  // timestamp in milliseconds
+    QPointer<QWindow> clickedWindow_;
+    quint64 clicked_ = 0;  // timestamp in milliseconds
     QPointF clickedPlace_;
-    bool passesOver_ = false;  // the click that is going on
+    bool discardsClick_ = false;  // the one that is going on
 };

@@ -9,12 +9,15 @@
 
 namespace {
 
-// The runtime folder is the user's own; the temporary one is shared, so the name tells the user there.
+// Folders of the user alone, in which nobody else can hold the name. QStandardPaths gives a runtime folder
+// only where this user owns it.
 QStringList lockPaths() {
-    const QString runtime = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
     QStringList paths;
-    if (!runtime.isEmpty()) paths += QDir{runtime}.filePath(QStringLiteral("palace-lantern.lock"));
-    paths += QDir::temp().filePath(QStringLiteral("palace-lantern-%1.lock").arg(QDir::home().dirName()));
+    for (const auto place : {QStandardPaths::RuntimeLocation, QStandardPaths::AppLocalDataLocation}) {
+        const QString folder = QStandardPaths::writableLocation(place);
+        if (!folder.isEmpty() && QDir{}.mkpath(folder))
+            paths += QDir{folder}.filePath(QStringLiteral("palace-lantern.lock"));
+    }
     return paths;
 }
 

@@ -1,4 +1,4 @@
-// The rules of the start: one running program per user, and no start without the picture converter.
+// The rules of the start: one running program for each user, and none without the picture converter.
 #pragma once
 
 #include <QLockFile>
@@ -6,11 +6,11 @@
 
 class SingleInstance {
   public:
-    // Tries to become the one. A lock that a killed program left behind does not count.
+    // Tries to take the lock. One that a killed program left behind does not count.
     SingleInstance();
 
-    // Whether another program of this user is running. Where nothing can be locked at all, nothing is known
-    // of another one, and the answer is no.
+    // Whether another program of this user holds the lock. Where nothing can be locked at all, the answer is
+    // no.
     bool anotherIsRunning() const { return anotherIsRunning_; }
 
   private:
@@ -21,5 +21,5 @@ class SingleInstance {
 // The picture converter in the application's own folder.
 QString converterPath();
 
-// Whether the converter is there, told by its name alone; if not, says so to the person.
+// Whether a file of that name is there, whatever is in it; if not, shows a message.
 bool requiredFileIsPresent();

@@ -27,7 +27,7 @@ std::int16_t numberOn(const Row& row, int month, int day) {
 void findInYears(const PickedDate& date, int first, int last) {
     if (date.year() < first || date.year() > last) return;
     const Row& row = lunar_table::rows[static_cast<std::size_t>(date.yearPosition)];
-    if (const auto number = numberOn(row, date.monthPosition + 1, date.day())) LunarMonth = number;
+    if (const auto number = numberOn(row, date.month(), date.day())) LunarMonth = number;
 }
 
 void FindLunarMonth1970To1979(const PickedDate& date) { findInYears(date, 1970, 1979); }

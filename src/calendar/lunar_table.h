@@ -32,9 +32,9 @@ struct Row {
     std::array<Gap, 2> gaps;
 };
 
-// Kept on purpose, although the usual calendar has it otherwise: 23 March to 20 May 1993 (1 and 2), 5 October
-// to 2 December 1994 (5 and 6), and every gap in the last column. Days that a month does not have keep the
-// number of its last real day, but those of February 1976 and 1995 carry the number of 1 March already.
+// Intentional: the table departs from the usual calendar from 23 March to 20 May 1993 (1 and 2), from 5
+// October to 2 December 1994 (5 and 6), and in every gap of the last column. Days that a month does not have
+// carry the number of its last real day, but those of February 1976 and 1995 the number of 1 March.
 // clang-format off
 inline constexpr std::array<Row, yearCount> rows{{
     {1970, {{{1, Jan, 11}, {8, Jan, 12}, {6, Feb, 1}, {8, Mar, 2}, {6, Apr, 3}, {5, May, 4}, {4, Jun, 5}, {3, Jul, 6}, {2, Aug, 7}, {1, Sep, 8}, {30, Sep, 9}, {30, Oct, 10}, {29, Nov, 11}, {28, Dec, 12}}}, {}},

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <array>
+#include <chrono>
 #include <cstddef>
 #include <string_view>
 
@@ -20,23 +21,17 @@ struct PickedDate {
     int monthPosition = 0;  // 0..11, January = 0
     int yearPosition = 0;   // 0..42, the year less 1970
 
-    // The day of the month, 1..31. Nothing says that the month has such a day.
-    constexpr int day() const { return dayPosition + 1; }
+    constexpr int day() const { return dayPosition + 1; }            // 1..31
+    constexpr int month() const { return monthPosition + 1; }        // 1..12
+    constexpr int year() const { return firstYear + yearPosition; }  // 1970..2012
 
     // The English month name.
     constexpr std::string_view monthText() const {
         return monthNames.at(static_cast<std::size_t>(monthPosition));
     }
 
-    // 1970..2012.
-    constexpr int year() const { return firstYear + yearPosition; }
-
-    // The days of the month, 28..31. Leap years are those divisible by 4, which is exact for these years.
-    constexpr int monthLength() const {
-        constexpr std::array<int, monthCount> lengths{31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
-        const bool leapFebruary = monthPosition == 1 && year() % 4 == 0;
-        return lengths.at(static_cast<std::size_t>(monthPosition)) + (leapFebruary ? 1 : 0);
-    }
+    // Whether the month has the day: the lists also let a person pick 30 February.
+    constexpr bool exists() const { return (std::chrono::year{year()} / month() / day()).ok(); }
 
     friend constexpr bool operator==(const PickedDate&, const PickedDate&) = default;
 };

@@ -1,5 +1,5 @@
-// The text of one label of the chart. Every text that a label can show is a few characters long, so it is
-// held in place: casting a chart allocates nothing, and clearing one is as cheap as clearing numbers.
+// The text of one label of the chart. No label shows more than a few characters, so they are stored in the
+// object itself: casting a chart allocates no memory.
 #pragma once
 
 #include <array>
@@ -28,8 +28,7 @@ class Caption {
     std::uint8_t size_ = 0;
 };
 
-// The upper text, a line break (carriage return and line feed) and the lower text, 15 characters in all at
-// the most.
+// The upper text, a line break (carriage return and line feed) and the lower text: at most 15 characters.
 constexpr Caption stacked(const Caption& upper, const Caption& lower) {
     std::array<char, 15> both{};
     std::size_t size = 0;

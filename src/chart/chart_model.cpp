@@ -1,5 +1,11 @@
 #include "chart/chart_model.h"
 
+bool ChartCell::holds(Star star) const {
+    const CellField& field = fieldOf(star);
+    if (field.flag != nullptr) return this->*field.flag;
+    return (this->*field.caption).text().starts_with(field.text.text());
+}
+
 void ChartModel::loadCells() {
     for (const CellIndex index : allCells) {
         cell(index) = ChartCell{};
@@ -9,8 +15,21 @@ void ChartModel::loadCells() {
 
 void ChartModel::clearCaptions() {
     for (ChartCell& cell : cells) {
-        for (const CaptionField& caption : captionFields) {
-            if (caption.field != &ChartCell::lblEarthlyBranches) cell.*caption.field = Caption{};
+        for (const CellField& field : cellFields) {
+            if (field.caption != nullptr && field.caption != &ChartCell::lblEarthlyBranches)
+                cell.*field.caption = Caption{};
         }
     }
+}
+
+void ChartModel::place(Star star, CellIndex where) {
+    const CellField& field = fieldOf(star);
+    ChartCell& target = cell(where);
+    if (field.flag != nullptr) {
+        target.*field.flag = true;
+    } else {
+        const bool aboveBranch = field.caption == &ChartCell::lblEarthlyBranches;
+        target.*field.caption = aboveBranch ? stacked(field.text, target.lblEarthlyBranches) : field.text;
+    }
+    starCells[static_cast<std::size_t>(star)] = where;
 }

@@ -14,116 +14,153 @@
 inline constexpr std::array<Caption, cellCount> branchNames{"Yin",  "Mao", "Chen", "Si",  "Wu", "Wei",
                                                             "Shen", "You", "Xu",   "Hai", "Zi", "Chou"};
 
-// A palace cell. The captions hold one text each; a flag says whether the star of that name stands in the
-// cell.
-struct ChartCell {
-    Caption lblPalace;
-    Caption lblPalaceSteam;
-    Caption lblEarthlyBranches;
-    Caption lblMajorStars;
-    Caption lblTianFu;
-    Caption lblBody;
-    Caption lblWenChang;
-    Caption lblWenQi;
-    Caption lblDiJie;
-    Caption lblDiKong;
-    Caption lblTaiFu;
-    Caption lblFengGao;
-    Caption lblZuoFu;
-    Caption lblYouBi;
-    Caption lblTianYao;
-    Caption lblTianXing;
-    Caption lblSanTai;
-    Caption lblBaZuo;
-    Caption lblEnGuang;
-    Caption lblTianGui;
+// The palaces, laid onto the cells from the Life Palace backwards.
+inline constexpr std::array<Caption, 12> palaceNames{"Life Palace", "Siblings", "Marriage", "Children",
+                                                     "Wealth",      "Health",   "Travel",   "Friends",
+                                                     "Career",      "Property", "Fortune",  "Parents"};
 
-    bool lblTianYue = false;
-    bool lblJieShen = false;
-    bool lblTianWu = false;
-    bool lblYinSha = false;
-    bool lblLuCun = false;
-    bool lblQingYang = false;
-    bool lblTuoLuo = false;
-    bool lblTianKui = false;
-    bool lblTianYueTwo = false;
-    bool lblHuaLu = false;
-    bool lblHuaQuan = false;
-    bool lblHuake = false;
-    bool lblHuaJi = false;
-    bool lblTianFutwo = false;
-    bool lblTianGuan = false;
-};
-
-// A caption of a cell under its label's name.
-struct CaptionField {
-    std::string_view name;
-    Caption ChartCell::*field;
-};
-
-// A flag of a cell under its label's name, with the text that the label shows where the flag is set.
-struct FlagField {
-    std::string_view name;
-    bool ChartCell::*field;
-    std::string_view text;
-};
-
-inline constexpr std::array<CaptionField, 20> captionFields{{
-    {"lblPalace", &ChartCell::lblPalace},
-    {"lblPalaceSteam", &ChartCell::lblPalaceSteam},
-    {"lblEarthlyBranches", &ChartCell::lblEarthlyBranches},
-    {"lblMajorStars", &ChartCell::lblMajorStars},
-    {"lblTianFu", &ChartCell::lblTianFu},
-    {"lblBody", &ChartCell::lblBody},
-    {"lblWenChang", &ChartCell::lblWenChang},
-    {"lblWenQi", &ChartCell::lblWenQi},
-    {"lblDiJie", &ChartCell::lblDiJie},
-    {"lblDiKong", &ChartCell::lblDiKong},
-    {"lblTaiFu", &ChartCell::lblTaiFu},
-    {"lblFengGao", &ChartCell::lblFengGao},
-    {"lblZuoFu", &ChartCell::lblZuoFu},
-    {"lblYouBi", &ChartCell::lblYouBi},
-    {"lblTianYao", &ChartCell::lblTianYao},
-    {"lblTianXing", &ChartCell::lblTianXing},
-    {"lblSanTai", &ChartCell::lblSanTai},
-    {"lblBaZuo", &ChartCell::lblBaZuo},
-    {"lblEnGuang", &ChartCell::lblEnGuang},
-    {"lblTianGui", &ChartCell::lblTianGui},
-}};
-
-// "Hua ke" has a small k on purpose. Two texts stand for two different stars each: the month star and the
-// year-stem star "Tian Yue", the major star and the year-stem star "Tian Fu".
-inline constexpr std::array<FlagField, 15> flagFields{{
-    {"lblTianYue", &ChartCell::lblTianYue, "Tian Yue"},
-    {"lblJieShen", &ChartCell::lblJieShen, "Jie Shen"},
-    {"lblTianWu", &ChartCell::lblTianWu, "Tian Wu"},
-    {"lblYinSha", &ChartCell::lblYinSha, "Yin Sha"},
-    {"lblLuCun", &ChartCell::lblLuCun, "Lu Cun"},
-    {"lblQingYang", &ChartCell::lblQingYang, "Qing Yang"},
-    {"lblTuoLuo", &ChartCell::lblTuoLuo, "Tuo Luo"},
-    {"lblTianKui", &ChartCell::lblTianKui, "Tian Kui"},
-    {"lblTianYueTwo", &ChartCell::lblTianYueTwo, "Tian Yue"},
-    {"lblHuaLu", &ChartCell::lblHuaLu, "Hua Lu"},
-    {"lblHuaQuan", &ChartCell::lblHuaQuan, "Hua Quan"},
-    {"lblHuake", &ChartCell::lblHuake, "Hua ke"},
-    {"lblHuaJi", &ChartCell::lblHuaJi, "Hua Ji"},
-    {"lblTianFutwo", &ChartCell::lblTianFutwo, "Tian Fu"},
-    {"lblTianGuan", &ChartCell::lblTianGuan, "Tian Guan"},
-}};
-
-// The stars, in the order of their placement; the chart records the cell of each.
+// The stars, in the order in which a cell is told. The chart records the cell of each.
 // clang-format off
 enum class Star : std::uint8_t {
     ZiWei, TianJi, TaiYang, WuQu, TianTong, LianZhen,                     // the Zi Wei group
     TianFu, TaiYin, TanLang, JuMen, TianXiang, TianLiang, QiSha, PoJun,   // the Tian Fu group
     WenChang, WenQu, DiJie, DiKong, TaiFu, FengGao,                       // the hour stars
-    ZuoFu, YouBi, TianYao, TianXing, JieShen, TianWu, TianYue, YinSha,    // the month stars
+    ZuoFu, YouBi, TianYao, TianXing,                                      // the month stars that are captions
     SanTai, BaZuo, EnGuang, TianGui,                                      // the day stars
-    LuCun, QingYang, TuoLuo, TianKui, TianYueTwo, TianGuan, TianFutwo,    // the year-stem stars
+    TianYue, JieShen, TianWu, YinSha,                                     // the month stars that are flags
+    LuCun, QingYang, TuoLuo, TianKui, TianYueTwo,                         // the year-stem stars
     HuaLu, HuaQuan, Huake, HuaJi,                                         // the transformations
+    TianFutwo, TianGuan,                                                  // two more year-stem stars
 };
 // clang-format on
-inline constexpr std::size_t starCount = static_cast<std::size_t>(Star::HuaJi) + 1;
+inline constexpr std::size_t starCount = static_cast<std::size_t>(Star::TianGuan) + 1;
+
+// A palace cell, one field for each of its labels. A caption holds the label's text; a flag says whether the
+// label is shown, which always has the same text.
+// clang-format off
+struct ChartCell {
+    Caption lblPalace, lblPalaceSteam, lblEarthlyBranches, lblBody;
+    Caption lblMajorStars, lblTianFu;
+    Caption lblWenChang, lblWenQi, lblDiJie, lblDiKong, lblTaiFu, lblFengGao;
+    Caption lblZuoFu, lblYouBi, lblTianYao, lblTianXing;
+    Caption lblSanTai, lblBaZuo, lblEnGuang, lblTianGui;
+    bool lblTianYue = false, lblJieShen = false, lblTianWu = false, lblYinSha = false;
+    bool lblLuCun = false, lblQingYang = false, lblTuoLuo = false, lblTianKui = false, lblTianYueTwo = false;
+    bool lblHuaLu = false, lblHuaQuan = false, lblHuake = false, lblHuaJi = false;
+    bool lblTianFutwo = false, lblTianGuan = false;
+
+    // Whether the star is shown in this cell, be it from this chart or from one before.
+    bool holds(Star star) const;
+};
+// clang-format on
+
+// A field of a cell, which is either a caption or a flag, with its label's name and a star's text.
+struct CellField {
+    std::string_view name;
+    Caption ChartCell::*caption;
+    bool ChartCell::*flag;
+    Caption text;
+};
+
+struct StarRow {
+    Star star;
+    std::string_view name;
+    CellField field;
+};
+
+// The table of stars: all that is told of a star's name, text and label stands here. "Tian Yue" and "Tian Fu"
+// are the texts of two different stars each. Intentional: "Hua ke" has a small k.
+// clang-format off
+#define CAPTION(star, text, label) {Star::star, #star, {#label, &ChartCell::label, nullptr, text}}
+#define FLAG(star, text, label) {Star::star, #star, {#label, nullptr, &ChartCell::label, text}}
+inline constexpr std::array<StarRow, starCount> starTable{{
+    CAPTION(ZiWei, "Zi Wei", lblEarthlyBranches),  // stands above the branch
+    CAPTION(TianJi, "Tian Ji", lblMajorStars),
+    CAPTION(TaiYang, "Tai Yang", lblMajorStars),
+    CAPTION(WuQu, "Wu Qu", lblMajorStars),
+    CAPTION(TianTong, "Tian Tong", lblMajorStars),
+    CAPTION(LianZhen, "Lian Zhen", lblMajorStars),
+    CAPTION(TianFu, "Tian Fu", lblTianFu),
+    CAPTION(TaiYin, "Tai Yin", lblTianFu),
+    CAPTION(TanLang, "Tan Lang", lblTianFu),
+    CAPTION(JuMen, "Ju Men", lblTianFu),
+    CAPTION(TianXiang, "Tian Xiang", lblTianFu),
+    CAPTION(TianLiang, "Tian Liang", lblTianFu),
+    CAPTION(QiSha, "Qi Sha", lblTianFu),
+    CAPTION(PoJun, "Po Jun", lblTianFu),
+    CAPTION(WenChang, "Wen Chang", lblWenChang),
+    CAPTION(WenQu, "Wen Qu", lblWenQi),
+    CAPTION(DiJie, "Di Jie", lblDiJie),
+    CAPTION(DiKong, "Di Kong", lblDiKong),
+    CAPTION(TaiFu, "Tai Fu", lblTaiFu),
+    CAPTION(FengGao, "Feng Gao", lblFengGao),
+    CAPTION(ZuoFu, "Zuo Fu", lblZuoFu),
+    CAPTION(YouBi, "You Bi", lblYouBi),
+    CAPTION(TianYao, "Tian Yao", lblTianYao),
+    CAPTION(TianXing, "Tian Xing", lblTianXing),
+    CAPTION(SanTai, "San Tai", lblSanTai),
+    CAPTION(BaZuo, "Ba Zuo", lblBaZuo),
+    CAPTION(EnGuang, "En Guang", lblEnGuang),
+    CAPTION(TianGui, "Tian Gui", lblTianGui),
+    FLAG(TianYue, "Tian Yue", lblTianYue),
+    FLAG(JieShen, "Jie Shen", lblJieShen),
+    FLAG(TianWu, "Tian Wu", lblTianWu),
+    FLAG(YinSha, "Yin Sha", lblYinSha),
+    FLAG(LuCun, "Lu Cun", lblLuCun),
+    FLAG(QingYang, "Qing Yang", lblQingYang),
+    FLAG(TuoLuo, "Tuo Luo", lblTuoLuo),
+    FLAG(TianKui, "Tian Kui", lblTianKui),
+    FLAG(TianYueTwo, "Tian Yue", lblTianYueTwo),
+    FLAG(HuaLu, "Hua Lu", lblHuaLu),
+    FLAG(HuaQuan, "Hua Quan", lblHuaQuan),
+    FLAG(Huake, "Hua ke", lblHuake),
+    FLAG(HuaJi, "Hua Ji", lblHuaJi),
+    FLAG(TianFutwo, "Tian Fu", lblTianFutwo),
+    FLAG(TianGuan, "Tian Guan", lblTianGuan),
+}};
+// clang-format on
+#undef CAPTION
+#undef FLAG
+
+// Whether the name is the text without its blanks; the second star of the same text also has a "Two".
+consteval bool isNameFor(std::string_view text, std::string_view name) {
+    for (const char letter : text) {
+        if (letter == ' ') continue;
+        if (!name.starts_with(letter)) return false;
+        name.remove_prefix(1);
+    }
+    return name.empty() || name == "Two" || name == "two";
+}
+
+// Compares text and label with the star's own name. The major stars share labels, and Wen Qu's is lblWenQi.
+consteval bool starTableFits() {
+    for (std::size_t i = 0; i < starCount; ++i) {
+        const auto& [star, name, field] = starTable[i];
+        const std::string_view label = star == Star::ZiWei      ? "EarthlyBranches"
+                                       : star <= Star::LianZhen ? "MajorStars"
+                                       : star <= Star::PoJun    ? "TianFu"
+                                       : star == Star::WenQu    ? "WenQi"
+                                                                : name;
+        if (star != static_cast<Star>(i) || !isNameFor(field.text.text(), name)) return false;
+        if (field.name.substr(3) != label) return false;
+    }
+    return true;
+}
+static_assert(starTableFits(), "the stars in their order, each with its own text and its own label");
+
+constexpr const CellField& fieldOf(Star star) { return starTable[static_cast<std::size_t>(star)].field; }
+
+// Every field of a cell once: three that hold no star, and those of the stars.
+inline constexpr auto cellFields = [] {
+    std::array<CellField, 35> fields{{{"lblPalace", &ChartCell::lblPalace, nullptr, ""},
+                                      {"lblPalaceSteam", &ChartCell::lblPalaceSteam, nullptr, ""},
+                                      {"lblBody", &ChartCell::lblBody, nullptr, ""}}};
+    std::size_t last = 2;
+    for (const StarRow& row : starTable) {
+        if (row.field.name != fields.at(last).name) fields.at(++last) = row.field;
+    }
+    return fields;
+}();
 
 // What a person entered, kept as entered: the midnight rule does not touch it. The chart file is written from
 // it.
@@ -142,36 +179,26 @@ struct ChartModel {
     Caption yearStem;
     CellIndex lifePalace;
     CellIndex bodyPalace;
-    Caption lblLifePalaceat;  // the branch of the Life Palace's cell
-    Caption lblBodyPalaceat;  // the branch of the Body Palace's cell
-    Caption lblElement;       // the five-element bureau
-    Caption ziWeiBranch;      // kept from chart to chart
-    CellIndex ziWeiCell;      // kept from chart to chart; cell 0 before the first
-    std::array<CellIndex, starCount> starCells;
+    Caption lblLifePalaceat;                     // the branch of the Life Palace's cell
+    Caption lblBodyPalaceat;                     // the branch of the Body Palace's cell
+    Caption lblElement;                          // the five-element bureau
+    Caption ziWeiBranch;                         // kept from chart to chart
+    std::array<CellIndex, starCount> starCells;  // kept from chart to chart; cell 0 before the first
     std::array<ChartCell, cellCount> cells;
 
     ChartModel() { loadCells(); }
 
-    // Puts the cells as a fresh chart window has them: no captions but the branches, no flags.
+    // Makes the cells those of a new chart window: no captions but the branches, no flags.
     void loadCells();
 
-    // Empties every caption of every cell but the branches. Flags and branches keep what they have.
+    // Empties every caption of every cell but the branches. Flags and branches stay as they are.
     void clearCaptions();
 
     ChartCell& cell(CellIndex index) { return cells[index.index()]; }
     const ChartCell& cell(CellIndex index) const { return cells[index.index()]; }
-    CellIndex& cellOf(Star star) { return starCells[static_cast<std::size_t>(star)]; }
     CellIndex cellOf(Star star) const { return starCells[static_cast<std::size_t>(star)]; }
 
-    // Writes a star's caption into the cell and records the cell.
-    void place(Star star, Caption ChartCell::*field, const Caption& caption, CellIndex where) {
-        cell(where).*field = caption;
-        cellOf(star) = where;
-    }
-
-    // Sets a star's flag in the cell and records the cell.
-    void place(Star star, bool ChartCell::*flag, CellIndex where) {
-        cell(where).*flag = true;
-        cellOf(star) = where;
-    }
+    // Shows the star in the cell and records the cell: sets its flag or writes its text, Zi Wei's above the
+    // branch.
+    void place(Star star, CellIndex where);
 };

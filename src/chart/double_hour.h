@@ -5,7 +5,7 @@
 
 // The double-hour of a time of day (hour 0..23, minute 0..59): 1 = "Zi" .. 12 = "Hai". Each runs from one
 // minute past an odd hour to the next odd hour on the hour; so 23:00 is still "Hai" and 01:00 still "Zi".
-// Kept on purpose: the usual reckoning begins each on the odd hour itself.
+// Intentional: the usual reckoning begins each on the odd hour itself.
 constexpr std::int16_t doubleHourOf(int hour, int minute) {
     const bool even = hour % 2 == 0;
     const int number = even ? hour / 2 + 1 : (minute == 0 ? (hour + 1) / 2 : (hour + 3) / 2);

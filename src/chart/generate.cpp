@@ -2,12 +2,8 @@
 
 #include "calendar/lunar_month.h"
 #include "chart/double_hour.h"
-#include "chart/major_stars.h"
 #include "chart/midnight_rule.h"
-#include "chart/minor_stars.h"
-#include "chart/palaces.h"
-#include "chart/year_stem_stars.h"
-#include "chart/zi_wei.h"
+#include "chart/placement.h"
 
 namespace {
 

@@ -1,11 +1,6 @@
-#include "chart/palaces.h"
+#include "chart/placement.h"
 
 namespace {
-
-// Laid onto the cells from the Life Palace backwards.
-constexpr std::array<Caption, 12> palaceNames{"Life Palace", "Siblings", "Marriage", "Children",
-                                              "Wealth",      "Health",   "Travel",   "Friends",
-                                              "Career",      "Property", "Fortune",  "Parents"};
 
 // The palace stems, beginning with Bing, as the Five Tigers rule counts them from the cell "Yin".
 constexpr std::array<Caption, 10> stemNames{"Bing", "Ding", "Wu",  "Ji",  "Geng",

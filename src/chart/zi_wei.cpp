@@ -1,12 +1,12 @@
-#include "chart/zi_wei.h"
-
 #include <algorithm>
+
+#include "chart/placement.h"
 
 namespace {
 
 constexpr std::array<Caption, 5> elementNames{"Water", "Wood", "Metal", "Earth", "Fire"};
 
-// Zi Wei's branch for the days 1 to 30, one column an element. Day 26 of Earth is Chen on purpose.
+// Zi Wei's branch for the days 1 to 30, one column an element. Intentional: day 26 of Earth is Chen.
 // clang-format off
 constexpr std::array<std::array<Caption, elementNames.size()>, 30> ziWeiBranches{{
     // Water  Wood    Metal   Earth   Fire
@@ -52,10 +52,6 @@ void placeZiWei(ChartModel& chart, int dayPosition) {
         chart.ziWeiBranch = ziWeiBranches[day].at(static_cast<std::size_t>(element));
     }
     for (const CellIndex cell : allCells) {
-        Caption& text = chart.cell(cell).lblEarthlyBranches;
-        if (text != chart.ziWeiBranch) continue;
-        text = stacked("Zi Wei", text);
-        chart.ziWeiCell = cell;
+        if (chart.cell(cell).lblEarthlyBranches == chart.ziWeiBranch) chart.place(Star::ZiWei, cell);
     }
-    chart.cellOf(Star::ZiWei) = chart.ziWeiCell;
 }

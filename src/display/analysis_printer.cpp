@@ -81,28 +81,38 @@ std::unique_ptr<QTextDocument> printedPart(const std::vector<TextRun>& runs, int
     return part;
 }
 
-// Controls of the dialog that would promise what is not done: pages by number, and their order. QPrintDialog
-// of Qt 6.4 shows some of them whatever its options say; under a parent that is never shown they are not,
-// either.
-void takeAway(QPrintDialog& dialog, QWidget& hidden) {
+// There is no printing by page numbers or in reverse order, so the dialog must not offer it. Qt 6.8 still:
+// QPrintDialog shows these controls whatever its options say. Inside a hidden widget they stay invisible.
+void hidePageNumbers(QPrintDialog& dialog) {
     const auto* options = dialog.findChild<QWidget*>(QStringLiteral("copiesTab"));
     if (options == nullptr) return;
+    auto* drawer = new QWidget{&dialog};
+    drawer->hide();
     for (const char* name : {"printRange", "from", "label_3", "to", "pagesRadioButton", "pagesLineEdit",
                              "printCurrentPage", "pageSetLabel", "pageSetCombo", "reverse"}) {
-        if (auto* control = options->findChild<QWidget*>(latin(name))) control->setParent(&hidden);
+        if (auto* control = options->findChild<QWidget*>(latin(name))) control->setParent(drawer);
     }
 }
 
-// A file to print to is proposed by the toolkit's dialog on some platforms only; on the others, its folder
-// is.
+// A printer that is chosen in the dialog brings margins of its own. They count only where a person changed
+// them.
+void useDecentMargins(QPrinter& printer) {
+    QPrinter untouched{QPrinter::HighResolution};
+    untouched.setPrinterName(printer.printerName());
+    const bool changed = printer.pageLayout().margins(QPageLayout::Millimeter) !=
+                         untouched.pageLayout().margins(QPageLayout::Millimeter);
+    if (!changed) printer.setPageMargins(paperMargins, QPageLayout::Millimeter);
+}
+
+// On some platforms QPrintDialog proposes only the folder of the file to print to.
 void proposeFile(QPrintDialog& dialog, const QString& name) {
     auto* box = dialog.findChild<QLineEdit*>(QStringLiteral("filename"));
     if (box != nullptr && QFileInfo{box->text()}.isDir())
         box->setText(QDir{box->text()}.filePath(name + QStringLiteral(".pdf")));
 }
 
-// Whether the person wants to print. The dialog of Windows, which has no layout, does not open where there is
-// no printer (QPrintDialog of Qt 6.4): the page goes to a file there.
+// Whether the person wants to print. The dialog of Windows, which has no layout, opens only where there is a
+// printer; without one, the pages go to a file there.
 bool isWanted(QPrintDialog& dialog, QPrinter& printer) {
     if (dialog.layout() != nullptr || printer.outputFormat() == QPrinter::NativeFormat)
         return dialog.exec() == QDialog::Accepted;
@@ -139,7 +149,6 @@ void printAnalysis(const std::vector<TextRun>& runs, int start, int end, QWidget
     printer.setPageMargins(paperMargins, QPageLayout::Millimeter);
     printer.setDocName(QStringLiteral("Palace Lantern"));
     const bool selected = start != end;
-    QWidget hidden;
     QPrintDialog dialog{&printer, parent};
     dialog.setOption(QAbstractPrintDialog::PrintPageRange, false);
     dialog.setOption(QAbstractPrintDialog::PrintCurrentPage, false);
@@ -147,7 +156,9 @@ void printAnalysis(const std::vector<TextRun>& runs, int start, int end, QWidget
     dialog.setPrintRange(selected ? QAbstractPrintDialog::Selection : QAbstractPrintDialog::AllPages);
     // What is selected is what is printed, so the dialog must not promise the whole beside it.
     if (auto* all = dialog.findChild<QRadioButton*>(QStringLiteral("printAll"))) all->setEnabled(!selected);
-    takeAway(dialog, hidden);
+    hidePageNumbers(dialog);
     proposeFile(dialog, printer.docName());
-    if (isWanted(dialog, printer)) printOnPaper(*printedPart(runs, start, end), printer);
+    if (!isWanted(dialog, printer)) return;
+    useDecentMargins(printer);
+    printOnPaper(*printedPart(runs, start, end), printer);
 }

@@ -42,21 +42,13 @@ QAccessibleInterface* createInterface(const QString&, QObject* object) {
     return square == nullptr ? nullptr : new SquareInterface{square};
 }
 
-// What stands below the line break of a caption that was extended, or the whole of one that was not.
+// The caption without what may stand above it.
 QString lastLine(const Caption& caption) { return latin(caption.text()).section(QLatin1Char('\n'), -1); }
 
-// The stars in the order in which the eye finds them: Zi Wei, the major stars, the minor ones, the flags.
 QStringList starsIn(const ChartCell& cell) {
     QStringList stars;
-    if (cell.lblEarthlyBranches.text().starts_with("Zi Wei")) stars += QStringLiteral("Zi Wei");
-    for (const CaptionField& caption : captionFields) {
-        const bool isStar =
-            caption.field != &ChartCell::lblPalace && caption.field != &ChartCell::lblPalaceSteam &&
-            caption.field != &ChartCell::lblEarthlyBranches && caption.field != &ChartCell::lblBody;
-        if (isStar && !(cell.*caption.field).empty()) stars += latin((cell.*caption.field).text());
-    }
-    for (const FlagField& flag : flagFields) {
-        if (cell.*flag.field) stars += latin(flag.text);
+    for (const StarRow& row : starTable) {
+        if (cell.holds(row.star)) stars += latin(row.field.text.text());
     }
     return stars;
 }

@@ -7,7 +7,7 @@ namespace {
 
 constexpr int largestMinorPixels = 60;
 constexpr int smallestMinorPixels = 6;
-constexpr int scrolledMinorPixels = 7;  // a chart that scrolls in any case need not be as small as can be
+constexpr int scrolledMinorPixels = 7;  // a chart that scrolls anyway need not be at its smallest
 constexpr double smallestLegibleDots = 10;
 
 }  // namespace
@@ -34,7 +34,7 @@ ChartScale ChartScale::largestFor(const QSize& room, double devicePixelRatio) {
 
 int ChartScale::pixels(int twips) const {
     return static_cast<int>(
-        std::ceil(twips * minorPixels_ / (look::twipsPerPixel * naturalScale.minorPixels())));
+        std::ceil(look::pixels(static_cast<double>(twips) * minorPixels_ / naturalScale.minorPixels())));
 }
 
 int ChartScale::fontPixels(int pixelSize) const {

@@ -31,8 +31,8 @@ constexpr GridPlace gridPlace(CellIndex cell) {
 }
 // clang-format on
 
-// The cell that one step on the screen leads to: the next one in that direction, across the centre where that
-// lies between; the same cell at the square's edge. Steps are -1, 0 or 1.
+// The next cell on the screen in the direction of the step, across the centre block where it lies between; at
+// the square's edge, the same cell. Steps are -1, 0 or 1.
 CellIndex neighbour(CellIndex cell, int columnStep, int rowStep);
 
 // The scale at which the chart is drawn, told by the size in pixels of the minor stars' names: whole pixels,
@@ -41,8 +41,8 @@ class ChartScale {
   public:
     explicit constexpr ChartScale(int minorPixels) : minorPixels_(minorPixels) {}
 
-    // The largest scale at which a chart with its hint line goes into the room, or one at which it scrolls;
-    // never one at which the text is too small to be read on a screen of this pixel ratio.
+    // The largest scale at which the chart and its hint line fit into the room and the text is still legible
+    // at this device pixel ratio. Where there is none, a legible one at which the chart scrolls.
     static ChartScale largestFor(const QSize& room, double devicePixelRatio);
 
     constexpr int minorPixels() const { return minorPixels_; }

@@ -6,7 +6,7 @@
 
 ChartSquare::ChartSquare(QWidget* parent) : QWidget(parent) {}
 
-// A pixel to spare: where a pixel is one dot and a half, the last lines reach over it.
+// One pixel larger than the square: at a device pixel ratio of 1.5, the last lines reach beyond it.
 void ChartSquare::setScale(ChartScale scale) {
     scale_ = scale;
     resize(scale.squareSize() + QSize{1, 1});
@@ -18,13 +18,13 @@ void ChartSquare::paintEvent(QPaintEvent*) {
     const QRect centre = scale_.centreFrame();
     painter.fillRect(QRect{QPoint{}, scale_.squareSize()}, look::paper);
     painter.fillRect(centre, look::titlePaper);
-    // In whole dots of the screen, so that lines are equally wide wherever they lie.
+    // In whole device pixels, so that all lines are equally wide.
     const int dots = qMax(1, qRound(devicePixelRatioF()));
     QPen pen{look::line, static_cast<qreal>(dots)};
     pen.setCosmetic(true);
     pen.setJoinStyle(Qt::MiterJoin);
     painter.setPen(pen);
-    painter.translate(QPointF{0.5, 0.5} * dots / devicePixelRatioF());  // half a line
+    painter.translate(QPointF{0.5, 0.5} * dots / devicePixelRatioF());  // half a line's width
     for (const CellIndex cell : allCells) painter.drawRect(scale_.cellFrame(cell).adjusted(0, 0, -1, -1));
     pen.setColor(look::brown);
     painter.setPen(pen);

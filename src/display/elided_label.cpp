@@ -5,7 +5,7 @@
 ElidedLabel::ElidedLabel(QWidget* parent) : QLabel(parent) { setTextFormat(Qt::PlainText); }
 
 void ElidedLabel::paintEvent(QPaintEvent*) {
-    // No more is measured than could ever be seen.
+    // Measuring a very long text takes time, and no character is narrower than a pixel.
     QString line = text().left(width());
     for (QChar& character : line) {
         if (!character.isPrint()) character = QLatin1Char(' ');

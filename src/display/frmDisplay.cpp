@@ -1,5 +1,6 @@
 #include "display/frmDisplay.h"
 
+#include <QEvent>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QVBoxLayout>
@@ -32,7 +33,7 @@ QFont scaledFont(const ChartScale& scale, LabelKind kind) {
     return look::chartFont(scale.fontPixels(lookOf(kind).pixelSize), lookOf(kind).bold);
 }
 
-bool isOneLine(const CellLabel& label) { return label.longestText.find('\n') == std::string_view::npos; }
+bool isOneLine(std::size_t label) { return longestTextOf(label).find('\n') == std::string_view::npos; }
 
 // The room that a text needs in a font. Lines that follow one another are each rounded up to whole pixels; a
 // line by itself is not, so that it stays clear of the label below it.
@@ -50,7 +51,7 @@ QSize textSize(const QFont& font, std::string_view text) {
 
 frmDisplay::frmDisplay(const ChartModel& chart, const BirthEntry& entry) {
     named(this, "frmDisplay");
-    setWindowTitle(tr("Palace Lantern Chart"));
+    setWindowTitle(QStringLiteral("Palace Lantern Chart"));
     createGround();
     for (const CellIndex cell : allCells) createCell(cell, chart.cell(cell));
     Frame2 = named(new QWidget{Frame1}, "Frame2");
@@ -71,7 +72,7 @@ frmDisplay::frmDisplay(const ChartModel& chart, const BirthEntry& entry) {
     rows->addWidget(scroll_);
 }
 
-// A cell loses the focus while the window goes, and has nobody to tell by then.
+// A cell that loses the focus during destruction must not call back.
 frmDisplay::~frmDisplay() {
     for (LblCover* cover : lblCover) cover->disconnect(this);
 }
@@ -83,8 +84,10 @@ void frmDisplay::createGround() {
     papers.setColor(QPalette::WindowText, look::ink);
     gfg->setPalette(papers);
     gfg->setAutoFillBackground(true);
+    gfg->setAttribute(Qt::WA_Hover);
+    gfg->installEventFilter(this);
     Frame1 = named(new ChartSquare{gfg}, "Frame1");
-    Frame1->setAccessibleName(tr("Chart"));
+    Frame1->setAccessibleName(QStringLiteral("Chart"));
     lblCaption = createLabel(gfg, "lblCaption", LabelKind::hint);
     lblCaption->setText(latin(backgroundHint));
     lblCaption->setAlignment(Qt::AlignCenter);
@@ -92,7 +95,7 @@ void frmDisplay::createGround() {
 
 void frmDisplay::createMenus() {
     menus_ = newMenuBar(this);
-    auto* mnuFile = named(menus_->addMenu(tr("&File")), "mnuFile");
+    auto* mnuFile = addMenu(menus_, "mnuFile", "&File");
     addEntry(mnuFile, "mnuShowAll", "Show All", this, &frmDisplay::showAllRequested);
     addEntry(mnuFile, "mnuSavejpg", "Save as JPG", this, &frmDisplay::savePictureRequested);
     mnuFile->addSeparator();
@@ -122,18 +125,15 @@ void frmDisplay::createCell(CellIndex cell, const ChartCell& content) {
     CellLabels& labels = labels_[cell.index()];
     for (std::size_t i = 0; i < labels.size(); ++i) {
         labels[i] = createLabel(square, std::string{cellLabels[i].name} + index, cellLabels[i].kind);
-        // What a line can spare is above its letters.
-        labels[i]->setAlignment(Qt::AlignLeft | (isOneLine(cellLabels[i]) ? Qt::AlignBottom : Qt::AlignTop));
+        // A line's spare room is above its letters.
+        labels[i]->setAlignment(Qt::AlignLeft | (isOneLine(i) ? Qt::AlignBottom : Qt::AlignTop));
+        if (cellLabels[i].top == 0) labels[i]->setContentsMargins(0, 1, 0, 0);  // clear of the border
+        const CellField& field = labelFields[i];
+        const Caption& text = field.flag != nullptr ? field.text : content.*field.caption;
+        if (!text.empty()) labels[i]->setText(latinLines(text.text()));
+        if (field.flag != nullptr) labels[i]->setVisible(content.*field.flag);
     }
-    for (std::size_t i = 0; i < captionFields.size(); ++i) {
-        const Caption& caption = content.*captionFields[i].field;
-        if (!caption.empty()) labels[captionLabels[i]]->setText(latinLines(caption.text()));
-    }
-    for (std::size_t i = 0; i < flagFields.size(); ++i) {
-        labels[flagLabels[i]]->setText(latin(flagFields[i].text));
-        labels[flagLabels[i]]->setVisible(content.*flagFields[i].field);
-    }
-    holdsZiWei_[cell.index()] = content.lblEarthlyBranches != branchNames[cell.index()];
+    holdsZiWei_[cell.index()] = content.holds(Star::ZiWei);
     if (holdsZiWei_[cell.index()]) colour(labels[rowOf(cellLabels, "lblEarthlyBranches")], LabelKind::ziWei);
 }
 
@@ -143,9 +143,9 @@ void frmDisplay::createCover(CellIndex cell, const ChartModel& chart) {
     cover->setAccessibleName(spokenCell(chart, cell));
     connectControl(cover, &LblCover::clicked, this,
                    [cell](frmDisplay* form) { emit form->palaceClicked(cell.value()); });
-    connect(cover, &LblCover::pointedAtOrLeft, this, &frmDisplay::showHint);
-    connect(cover, &LblCover::focused, this,
-            [this, cover](Qt::FocusReason reason) { takeFocus(cover, reason); });
+    connect(cover, &LblCover::pointerChanged, this, &frmDisplay::showHint);
+    connect(cover, &LblCover::focusChanged, this,
+            [this, cover](Qt::FocusReason reason) { followFocus(cover, reason); });
     connect(cover, &LblCover::stepWanted, this,
             [this, cell](int columnStep, int rowStep) { moveFocus(cell, columnStep, rowStep); });
 }
@@ -211,7 +211,7 @@ void frmDisplay::placeCells() {
         const QFont font = scaledFont(scale_, label.kind);
         const QSize least{scale_.pixels(label.minimumWidth), 0};
         const QRect place{QPoint{scale_.pixels(label.left), scale_.pixels(label.top)},
-                          textSize(font, label.longestText).expandedTo(least)};
+                          textSize(font, longestTextOf(i)).expandedTo(least)};
         for (const CellLabels& labels : labels_) {
             if (!inheritsFont(label.kind)) labels[i]->setFont(font);
             labels[i]->setGeometry(place);
@@ -243,21 +243,38 @@ QPixmap frmDisplay::clientPicture() {
 }
 
 void frmDisplay::showHint() {
-    const bool onCell = std::ranges::any_of(lblCover, &LblCover::isPointedAt);
+    const bool onCell = std::ranges::any_of(lblCover, [this](const LblCover* cover) {
+        return cover->underMouse() || (keysLead_ && cover->hasFocus());
+    });
     lblCaption->setText(latin(onCell ? cellHint : backgroundHint));
 }
 
-// A window inside a frame would keep the Tab key's focus to itself for good.
+// The ground is sent the moves over all that lies on it.
+bool frmDisplay::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() != QEvent::HoverMove) return QWidget::eventFilter(watched, event);
+    keysLead_ = false;
+    showHint();
+    return true;
+}
+
+// Qt 6.8 still: the Tab key never leaves a QMdiSubWindow.
 bool frmDisplay::focusNextPrevChild(bool next) {
     emit tabbedOut(next);
     return true;
 }
 
-// The chart is one stop of the Tab key, at the cell that had the focus last; arrow keys move within it. What
-// is pressed with the pointer is in sight, and must not move away from under it.
-void frmDisplay::takeFocus(LblCover* cover, Qt::FocusReason reason) {
-    for (LblCover* other : lblCover) other->setFocusPolicy(other == cover ? Qt::StrongFocus : Qt::ClickFocus);
-    if (reason != Qt::MouseFocusReason) scroll_->ensureWidgetVisible(cover, 0, 0);
+// The chart is one stop of the Tab key, at the cell that had the focus last; arrow keys move within it. A
+// cell that is pressed with the pointer must not move away from under it.
+void frmDisplay::followFocus(LblCover* cover, Qt::FocusReason reason) {
+    if (cover->hasFocus()) {
+        for (LblCover* other : lblCover)
+            other->setFocusPolicy(other == cover ? Qt::StrongFocus : Qt::ClickFocus);
+        if (reason != Qt::MouseFocusReason) scroll_->ensureWidgetVisible(cover, 0, 0);
+        const bool byKey = reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason ||
+                           reason == Qt::OtherFocusReason;
+        keysLead_ = byKey || (keysLead_ && reason != Qt::MouseFocusReason);
+    }
+    showHint();
 }
 
 void frmDisplay::moveFocus(CellIndex from, int columnStep, int rowStep) {

@@ -42,6 +42,7 @@ class frmDisplay : public QWidget {
     void tabbedOut(bool forwards);  // the Tab key left the chart
 
   protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
     bool focusNextPrevChild(bool next) override;
 
   private:
@@ -58,7 +59,7 @@ class frmDisplay : public QWidget {
     void placeCells();
     void placeCentre();
     void showHint();
-    void takeFocus(LblCover* cover, Qt::FocusReason reason);
+    void followFocus(LblCover* cover, Qt::FocusReason reason);
     void moveFocus(CellIndex from, int columnStep, int rowStep);
 
     QMenuBar* menus_;
@@ -73,4 +74,5 @@ class frmDisplay : public QWidget {
     std::array<bool, cellCount> holdsZiWei_{};
     std::array<QLabel*, centreLabels.size()> centre_{};
     ChartScale scale_{naturalScale};
+    bool keysLead_ = false;  // keys have moved the focus since the pointer last moved
 };

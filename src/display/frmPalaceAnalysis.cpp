@@ -24,13 +24,15 @@ constexpr int comfortableLine = 84;
 // The sizes in which the text can be read, in per cent.
 constexpr std::array<int, 10> textSizes{80, 90, 100, 110, 125, 150, 175, 200, 250, 300};
 
+constexpr int wheelStep = QWheelEvent::DefaultDeltasPerStep;
+
 }  // namespace
 
-frmPalaceAnalysis::frmPalaceAnalysis(AnalysisKind kind, const std::vector<TextRun>& runs, int textSize,
-                                     QWidget* parent)
-    : QDialog(parent), kind_(kind), runs_(runs), textSize_(textSize) {
+frmPalaceAnalysis::frmPalaceAnalysis(AnalysisKind kind, const std::vector<TextRun>& runs,
+                                     const AnalysisView& view, QWidget* parent)
+    : QDialog(parent), kind_(kind), runs_(runs), view_(view) {
     named(this, "frmPalaceAnalysis");
-    setWindowTitle(tr("Palace Lantern Analysis"));
+    setWindowTitle(QStringLiteral("Palace Lantern Analysis"));
     createText();
     auto* rows = new QVBoxLayout{this};
     rows->setSpacing(10);
@@ -44,7 +46,7 @@ frmPalaceAnalysis::frmPalaceAnalysis(AnalysisKind kind, const std::vector<TextRu
 
 void frmPalaceAnalysis::createText() {
     RTB = named(new QTextEdit, "RTB");
-    RTB->setAccessibleName(tr("Analysis"));
+    RTB->setAccessibleName(QStringLiteral("Analysis"));
     RTB->setReadOnly(true);
     RTB->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     RTB->setTabChangesFocus(true);
@@ -58,7 +60,7 @@ void frmPalaceAnalysis::createText() {
     RTB->document()->setDocumentMargin(14);
     RTB->document()->setUndoRedoEnabled(false);
     RTB->viewport()->installEventFilter(this);
-    fillWithRuns(*RTB->document(), runs_, textSize_);
+    fillWithRuns(*RTB->document(), runs_, view_.textSize);
     // The text is read from its top, by eye and by the keyboard's cursor.
     RTB->moveCursor(QTextCursor::Start);
 }
@@ -77,7 +79,7 @@ void frmPalaceAnalysis::createButtons(QVBoxLayout* rows) {
 
 void frmPalaceAnalysis::createMenus() {
     QMenuBar* menus = newMenuBar(this);
-    auto* mnuFile = named(menus->addMenu(tr("&File")), "mnuFile");
+    auto* mnuFile = addMenu(menus, "mnuFile", "&File");
     addEntry(mnuFile, "mnuOk", "&Ok", this, &QDialog::accept);
     menus->addMenu(new HelpMenu{this});
     layout()->setMenuBar(menus);
@@ -103,7 +105,15 @@ void frmPalaceAnalysis::fitToScreen() {
     body.setBold(true);
     const int width = static_cast<int>(QFontMetricsF{body}.averageCharWidth() * comfortableLine) + 80;
     const QSize room = parentWidget()->screen()->availableSize() - QSize{24, 80};
-    resize(QSize{width, width * 9 / 10}.boundedTo(room));
+    const QSize wanted = view_.size.isValid() ? view_.size : QSize{width, width * 9 / 10};
+    firstSize_ = wanted.boundedTo(room);
+    resize(firstSize_);
+}
+
+// A size that only the screen has bounded is not a person's choice.
+AnalysisView frmPalaceAnalysis::view() const {
+    const QSize now = normalGeometry().size();
+    return {view_.textSize, now == firstSize_ ? view_.size : now};
 }
 
 void frmPalaceAnalysis::cmdPrint_Click() {
@@ -111,11 +121,10 @@ void frmPalaceAnalysis::cmdPrint_Click() {
     printAnalysis(runs_, cursor.selectionStart(), cursor.selectionEnd(), this);
 }
 
-// The line at the top of the view stays there; what is selected stays so.
+// The line at the top of the view stays there, and the selection as it is.
 void frmPalaceAnalysis::setTextSize(int percent) {
-    if (percent == textSize_) return;
-    textSize_ = percent;
-    emit textSizeChosen(percent);
+    if (percent == view_.textSize) return;
+    view_.textSize = percent;
     QTextCursor cursor = RTB->textCursor();
     const int anchor = cursor.anchor(), position = cursor.position();
     const QTextCursor top = RTB->cursorForPosition({0, 2});
@@ -131,15 +140,18 @@ void frmPalaceAnalysis::setTextSize(int percent) {
 }
 
 void frmPalaceAnalysis::stepTextSize(bool larger) {
-    const auto here = std::ranges::find(textSizes, textSize_);
+    const auto here = std::ranges::find(textSizes, view_.textSize);
     if (larger && here + 1 != textSizes.end()) setTextSize(*(here + 1));
     if (!larger && here != textSizes.begin()) setTextSize(*(here - 1));
 }
 
+// A touchpad turns the wheel by less than a step at a time.
 bool frmPalaceAnalysis::eventFilter(QObject* watched, QEvent* event) {
     auto* wheel = event->type() == QEvent::Wheel ? static_cast<QWheelEvent*>(event) : nullptr;
     if (wheel == nullptr || !(wheel->modifiers() & Qt::ControlModifier))
         return QDialog::eventFilter(watched, event);
-    if (wheel->angleDelta().y() != 0) stepTextSize(wheel->angleDelta().y() > 0);
+    turnedAngle_ += wheel->angleDelta().y();
+    for (; turnedAngle_ >= wheelStep; turnedAngle_ -= wheelStep) stepTextSize(true);
+    for (; turnedAngle_ <= -wheelStep; turnedAngle_ += wheelStep) stepTextSize(false);
     return true;
 }

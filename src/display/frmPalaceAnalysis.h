@@ -5,6 +5,7 @@
 #include <QDialog>
 #include <vector>
 
+#include "display/analysis_view.h"
 #include "interpret/text_run.h"
 
 class QPushButton;
@@ -19,13 +20,16 @@ enum class AnalysisKind {
 class frmPalaceAnalysis : public QDialog {
     Q_OBJECT
   public:
-    // Shows the runs one after another, each in its own style, with CR LF as one line break. The text's size
-    // is in per cent of the runs' own.
-    frmPalaceAnalysis(AnalysisKind kind, const std::vector<TextRun>& runs, int textSize, QWidget* parent);
+    // Shows the runs one after another, each in its own style, with CR LF as one line break, in a window that
+    // is never larger than the parent's screen.
+    frmPalaceAnalysis(AnalysisKind kind, const std::vector<TextRun>& runs, const AnalysisView& view,
+                      QWidget* parent);
+
+    // The view as a person has left it.
+    AnalysisView view() const;
 
   signals:
     void saveRequested();
-    void textSizeChosen(int percent);
 
   protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -42,7 +46,9 @@ class frmPalaceAnalysis : public QDialog {
 
     AnalysisKind kind_;
     std::vector<TextRun> runs_;
-    int textSize_;
+    AnalysisView view_;
+    QSize firstSize_;      // of the window
+    int turnedAngle_ = 0;  // of the wheel, in eighths of a degree, short of a step
     QTextEdit* RTB;
     QPushButton* cmdSave;
     QPushButton* cmdPrint;

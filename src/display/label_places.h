@@ -10,21 +10,12 @@
 #include "chart/chart_model.h"
 #include "style/look.h"
 
+// clang-format off
 enum class LabelKind {
-    quiet,
-    ziWei,
-    tianFuGroup,
-    ziWeiGroup,
-    palace,
-    minor,
-    transformation,
-    body,
-    name,
-    heading,
-    prompt,
-    value,
-    hint
+    quiet, ziWei, tianFuGroup, ziWeiGroup, palace, minor, transformation, body,  // in a cell
+    name, heading, prompt, value, hint,                                          // in the centre and below
 };
+// clang-format on
 
 // How a kind of label looks; the size is in pixels at scale 1.
 struct LabelLook {
@@ -36,7 +27,7 @@ struct LabelLook {
 
 inline constexpr std::array<LabelLook, 13> labelLooks{{
     {LabelKind::quiet, 10, false, look::quiet},
-    {LabelKind::ziWei, 10, true, look::green},  // a branch with Zi Wei above it leads like a major star
+    {LabelKind::ziWei, 10, true, look::green},  // a branch below Zi Wei: the major stars' colour
     {LabelKind::tianFuGroup, 12, true, look::blue},
     {LabelKind::ziWeiGroup, 12, true, look::green},
     {LabelKind::palace, 12, true, look::brown},
@@ -53,13 +44,14 @@ inline constexpr std::array<LabelLook, 13> labelLooks{{
 constexpr const LabelLook& lookOf(LabelKind kind) { return labelLooks[static_cast<std::size_t>(kind)]; }
 
 // A label that every cell has. The width is the least; a label is wider where its longest text asks for it.
+// That text is named here where it is not the name of the one star that the label shows.
 struct CellLabel {
     std::string_view name;
     int left;
     int top;
     int minimumWidth;
     LabelKind kind;
-    std::string_view longestText;
+    std::string_view longestText = {};
 };
 
 // The left side of a cell holds what a cell is: branch, stem, major stars, palace. The rest of it holds the
@@ -72,43 +64,43 @@ inline constexpr std::array<CellLabel, 35> cellLabels{{
     {"lblMajorStars",         60, 1605, 975, LabelKind::ziWeiGroup,     "Lian Zhen"},
     {"lblPalace",             60, 1920,   0, LabelKind::palace,         "Life Palace"},
 
-    {"lblTianKui",          1080,  120,   0, LabelKind::minor,          "Tian Kui"},
-    {"lblTianYueTwo",       1080,  320,   0, LabelKind::minor,          "Tian Yue"},
-    {"lblLuCun",            1080,  520,   0, LabelKind::minor,          "Lu Cun"},
-    {"lblZuoFu",            1080,  720,   0, LabelKind::minor,          "Zuo Fu"},
-    {"lblYouBi",            1080,  920,   0, LabelKind::minor,          "You Bi"},
-    {"lblTuoLuo",           1080, 1120,   0, LabelKind::minor,          "Tuo Luo"},
-    {"lblSanTai",           1200, 1320,   0, LabelKind::minor,          "San Tai"},
-    {"lblBaZuo",            1200, 1520,   0, LabelKind::minor,          "Ba Zuo"},
+    {"lblTianKui",          1080,  120,   0, LabelKind::minor},
+    {"lblTianYueTwo",       1080,  320,   0, LabelKind::minor},
+    {"lblLuCun",            1080,  520,   0, LabelKind::minor},
+    {"lblZuoFu",            1080,  720,   0, LabelKind::minor},
+    {"lblYouBi",            1080,  920,   0, LabelKind::minor},
+    {"lblTuoLuo",           1080, 1120,   0, LabelKind::minor},
+    {"lblSanTai",           1200, 1320,   0, LabelKind::minor},
+    {"lblBaZuo",            1200, 1520,   0, LabelKind::minor},
 
-    {"lblWenChang",         1875,  120,   0, LabelKind::minor,          "Wen Chang"},
-    {"lblTianFutwo",        1875,  320,   0, LabelKind::minor,          "Tian Fu"},
-    {"lblTianGuan",         1875,  520,   0, LabelKind::minor,          "Tian Guan"},
-    {"lblQingYang",         1875,  720,   0, LabelKind::minor,          "Qing Yang"},
-    {"lblEnGuang",          1875,  920,   0, LabelKind::minor,          "En Guang"},
-    {"lblTianXing",         1875, 1120,   0, LabelKind::minor,          "Tian Xing"},
-    {"lblFengGao",          1875, 1320,   0, LabelKind::minor,          "Feng Gao"},
-    {"lblTaiFu",            1875, 1520,   0, LabelKind::minor,          "Tai Fu"},
+    {"lblWenChang",         1875,  120,   0, LabelKind::minor},
+    {"lblTianFutwo",        1875,  320,   0, LabelKind::minor},
+    {"lblTianGuan",         1875,  520,   0, LabelKind::minor},
+    {"lblQingYang",         1875,  720,   0, LabelKind::minor},
+    {"lblEnGuang",          1875,  920,   0, LabelKind::minor},
+    {"lblTianXing",         1875, 1120,   0, LabelKind::minor},
+    {"lblFengGao",          1875, 1320,   0, LabelKind::minor},
+    {"lblTaiFu",            1875, 1520,   0, LabelKind::minor},
 
-    {"lblWenQi",            2880,  120,   0, LabelKind::minor,          "Wen Qu"},
-    {"lblTianYue",          2880,  320,   0, LabelKind::minor,          "Tian Yue"},
-    {"lblTianYao",          2880,  520,   0, LabelKind::minor,          "Tian Yao"},
-    {"lblTianWu",           2880,  720,   0, LabelKind::minor,          "Tian Wu"},
-    {"lblTianGui",          2880,  920,   0, LabelKind::minor,          "Tian Gui"},
-    {"lblJieShen",          2880, 1120,   0, LabelKind::minor,          "Jie Shen"},
-    {"lblYinSha",           2880, 1320,   0, LabelKind::minor,          "Yin Sha"},
-    {"lblDiJie",            2880, 1520,   0, LabelKind::minor,          "Di Jie"},
-    {"lblDiKong",           2880, 1720,   0, LabelKind::minor,          "Di Kong"},
+    {"lblWenQi",            2880,  120,   0, LabelKind::minor},
+    {"lblTianYue",          2880,  320,   0, LabelKind::minor},
+    {"lblTianYao",          2880,  520,   0, LabelKind::minor},
+    {"lblTianWu",           2880,  720,   0, LabelKind::minor},
+    {"lblTianGui",          2880,  920,   0, LabelKind::minor},
+    {"lblJieShen",          2880, 1120,   0, LabelKind::minor},
+    {"lblYinSha",           2880, 1320,   0, LabelKind::minor},
+    {"lblDiJie",            2880, 1520,   0, LabelKind::minor},
+    {"lblDiKong",           2880, 1720,   0, LabelKind::minor},
 
-    {"lblHuaJi",            1200, 1720,   0, LabelKind::transformation, "Hua Ji"},
-    {"lblHuaQuan",          1875, 1720,   0, LabelKind::transformation, "Hua Quan"},
-    {"lblHuake",            1200, 1920,   0, LabelKind::transformation, "Hua ke"},
-    {"lblHuaLu",            1875, 1920,   0, LabelKind::transformation, "Hua Lu"},
+    {"lblHuaJi",            1200, 1720,   0, LabelKind::transformation},
+    {"lblHuaQuan",          1875, 1720,   0, LabelKind::transformation},
+    {"lblHuake",            1200, 1920,   0, LabelKind::transformation},
+    {"lblHuaLu",            1875, 1920,   0, LabelKind::transformation},
     {"lblBody",             2880, 1920,   0, LabelKind::body,           "* Body"},
 }};
 // clang-format on
 
-// A label of the centre block: one that is filled, or a fixed prompt, which has a text.
+// A label of the centre block: a fixed prompt or, where the prompt is empty, a value that is filled in.
 struct CentreLabel {
     std::string_view name;
     std::string_view prompt;
@@ -153,27 +145,27 @@ consteval std::size_t rowOf(const Table& table, std::string_view name) {
     return row;
 }
 
-// The label of each field of a cell, in the order of the fields' table.
-template <class Fields>
-consteval auto labelsOf(const Fields& fields) {
-    std::array<std::size_t, std::tuple_size_v<Fields>> rows{};
-    for (std::size_t i = 0; i < fields.size(); ++i) rows[i] = rowOf(cellLabels, fields[i].name);
-    return rows;
+// The field that each label of a cell shows.
+consteval auto fieldsOfLabels() {
+    std::array<CellField, cellLabels.size()> fields{};
+    for (std::size_t i = 0; i < fields.size(); ++i)
+        fields[i] = cellFields[rowOf(cellFields, cellLabels[i].name)];
+    return fields;
 }
-inline constexpr auto captionLabels = labelsOf(captionFields);
-inline constexpr auto flagLabels = labelsOf(flagFields);
+inline constexpr auto labelFields = fieldsOfLabels();
+
+// The longest text that a label of a cell shows.
+constexpr std::string_view longestTextOf(std::size_t label) {
+    const std::string_view named = cellLabels[label].longestText;
+    return named.empty() ? labelFields[label].text.text() : named;
+}
 
 consteval bool tablesFit() {
-    std::array<int, cellLabels.size()> fieldsOfLabel{};
-    for (const std::size_t label : captionLabels) ++fieldsOfLabel[label];
-    for (const std::size_t label : flagLabels) ++fieldsOfLabel[label];
-    for (const int fields : fieldsOfLabel) {
-        if (fields != 1) return false;
-    }
+    for (const CellField& field : cellFields) rowOf(cellLabels, field.name);
     for (std::size_t i = 0; i < labelLooks.size(); ++i) {
         if (labelLooks[i].kind != static_cast<LabelKind>(i)) return false;
     }
     return true;
 }
-static_assert(tablesFit(),
+static_assert(cellLabels.size() == cellFields.size() && tablesFit(),
               "each field of a cell has one label, each label one field, and each kind its look");

@@ -3,36 +3,34 @@
 #include <QKeyEvent>
 #include <QPainter>
 
-#include "style/controls.h"
 #include "style/look.h"
 
-LblCover::LblCover(CellIndex cell, QWidget* parent) : QAbstractButton(parent) {
+LblCover::LblCover(CellIndex cell, QWidget* parent) : PressArea(parent) {
     named(this, "lblCover(" + std::to_string(cell.value()) + ")");
     setFocusPolicy(cell == CellIndex{0} ? Qt::StrongFocus : Qt::ClickFocus);
     setCursor(Qt::PointingHandCursor);
 }
 
 void LblCover::enterEvent(QEnterEvent* event) {
-    QAbstractButton::enterEvent(event);
+    PressArea::enterEvent(event);
     update();
-    emit pointedAtOrLeft();
+    emit pointerChanged();
 }
 
 void LblCover::leaveEvent(QEvent* event) {
-    QAbstractButton::leaveEvent(event);
+    PressArea::leaveEvent(event);
     update();
-    emit pointedAtOrLeft();
+    emit pointerChanged();
 }
 
 void LblCover::focusInEvent(QFocusEvent* event) {
-    QAbstractButton::focusInEvent(event);
-    emit focused(event->reason());
-    emit pointedAtOrLeft();
+    PressArea::focusInEvent(event);
+    emit focusChanged(event->reason());
 }
 
 void LblCover::focusOutEvent(QFocusEvent* event) {
-    QAbstractButton::focusOutEvent(event);
-    emit pointedAtOrLeft();
+    PressArea::focusOutEvent(event);
+    emit focusChanged(event->reason());
 }
 
 void LblCover::keyPressEvent(QKeyEvent* event) {
@@ -49,16 +47,12 @@ void LblCover::keyPressEvent(QKeyEvent* event) {
         case Qt::Key_Down:
             emit stepWanted(0, 1);
             return;
-        case Qt::Key_Return:
-        case Qt::Key_Enter:
-            click();
-            return;
         default:
-            QAbstractButton::keyPressEvent(event);
+            PressArea::keyPressEvent(event);
     }
 }
 
-// The frame of the focus is thin above, where the letters begin right below the edge.
+// The focus frame is thin at the top, where the letters begin right below the edge.
 void LblCover::paintEvent(QPaintEvent*) {
     if (!marked_) return;
     QPainter painter{this};

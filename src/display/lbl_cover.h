@@ -1,25 +1,21 @@
-// The transparent area over a palace cell: it takes clicks and hovering, can hold the focus, and is what a
-// screen reader knows of the cell.
+// The transparent area over a palace cell: it is clicked and hovered over, holds the focus, and speaks for
+// the cell to a screen reader.
 #pragma once
 
-#include <QAbstractButton>
-
 #include "chart/cell_index.h"
+#include "style/controls.h"
 
-class LblCover : public QAbstractButton {
+class LblCover : public PressArea {
     Q_OBJECT
   public:
     LblCover(CellIndex cell, QWidget* parent);
 
-    // Whether the pointer is in the cell or the focus on it.
-    bool isPointedAt() const { return underMouse() || hasFocus(); }
-
-    // Whether pointer and focus are seen, as on the screen, or not, as in a picture.
+    // Whether pointer and focus are painted: on the screen, but not in a picture.
     void setMarked(bool marked) { marked_ = marked; }
 
   signals:
-    void pointedAtOrLeft();
-    void focused(Qt::FocusReason reason);
+    void pointerChanged();  // entered the cell or left it
+    void focusChanged(Qt::FocusReason reason);
     void stepWanted(int columnStep, int rowStep);
 
   protected:

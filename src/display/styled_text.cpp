@@ -12,7 +12,7 @@ QTextCharFormat formatFor(const TextStyle& style, int percent) {
     format.setFontFamilies(look::textFont(QFont{}).families());
     format.setFontPointSize(style.size * percent / 100.0);
     format.setFontWeight(style.bold ? QFont::Bold : QFont::Normal);
-    format.setForeground(QColor{style.colour.red, style.colour.green, style.colour.blue});
+    format.setForeground(look::colourOf(style.colour));
     return format;
 }
 

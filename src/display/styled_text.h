@@ -6,6 +6,5 @@
 
 #include "interpret/text_run.h"
 
-// Puts the runs into the document in place of what is there, each in its own style, its letters enlarged to
-// so many per cent of their size.
+// Replaces the document's content by the runs, each in its own style, at so many per cent of its font size.
 void fillWithRuns(QTextDocument& document, const std::vector<TextRun>& runs, int percent);

@@ -8,8 +8,8 @@
 
 #include "chart/chart_model.h"
 
-// The most bytes that a chart file is read for: four lines as long as the longest name that the name box
-// holds.
+// How many bytes of a chart file are read: four lines, each as long as the longest name that the name box
+// takes.
 inline constexpr std::size_t longestChartFile = std::size_t{4} * (32767 + 2);
 
 // The shift that every line of a chart file passes through, so that the file is not plain text: each code

@@ -5,124 +5,111 @@
 #include <QLineEdit>
 #include <QScreen>
 
+#include "files/picture_name.h"
 #include "style/controls.h"
 #include "style/message.h"
+#include "style/platform.h"
 
 namespace {
 
-constexpr qsizetype longestName = 255;  // bytes; file systems hold no longer ones
+// What a dialog asks for.
+struct Request {
+    QFileDialog::AcceptMode mode;
+    const char* title;
+    const char* filter;
+    QString (*completed)(const QString& path);   // the path to use for the one that was typed
+    QString (*obstacle)(const QFileInfo& file);  // why the file can't be used; empty where it can
+    bool asksBeforeReplacing = false;
+};
 
 class FileDialog : public QFileDialog {
   public:
-    FileDialog(QWidget* parent, AcceptMode mode, const char* title, const char* filter)
-        : QFileDialog(parent, latin(title), QString{}, latin(filter)) {
-        setAcceptMode(mode);
+    FileDialog(const Request& request, QWidget* parent)
+        : QFileDialog(parent, latin(request.title), QString{}, latin(request.filter)), request_(request) {
+        setAcceptMode(request.mode);
     }
 
+    // Returns the chosen path, or an empty text where the dialog was cancelled.
     QString ask() {
-        const QSize room = screen()->availableSize() - QSize{40, 60};
+        const QSize room = parentWidget()->screen()->availableSize() - QSize{40, 60};
         resize(sizeHint().expandedTo(QSize{720, 460}).boundedTo(room));
         const bool chosen = exec() == Accepted;
-        // Some window managers give the focus to nobody where two windows close at once.
-        if (parentWidget() != nullptr) parentWidget()->activateWindow();
+        // Some window managers of X11 give the focus to nobody where two windows close at once. Qt 6.8 still:
+        // under Wayland, activating a window while a closed dialog still exists can crash.
+        if (placesAreKnown()) parentWidget()->activateWindow();
         return chosen ? path_ : QString{};
     }
 
   protected:
-    // The name as it will be used, from the name as it was typed, which no folder has.
-    virtual QString completed(const QString& path) const = 0;
-
-    // Why the file can't be used, or nothing where it can.
-    virtual QString obstacle(const QFileInfo& file) const = 0;
-
-    // Whether the file may be replaced by another.
-    virtual bool mayReplace(const QFileInfo&) { return true; }
-
-    // In place of the dialog's own check, which takes the suffix from the whole path, a quotation mark for
-    // the end of a name, a name for markup, and is silent where a name is too long (QFileDialog of Qt 6.4).
+    // Replaces the check of QFileDialog. Qt 6.8 still: it ends a name at a quotation mark, shows a name as
+    // markup, and says nothing where a name is too long.
     void accept() override {
         const auto* box = findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
-        const bool quoted = box->text().contains(QLatin1Char('"'));
+        const bool quoted = box != nullptr && box->text().contains(QLatin1Char('"'));
         const QString typed = quoted ? directory().absoluteFilePath(box->text()) : selectedFiles().value(0);
         if (QFileInfo{typed}.isDir()) return QFileDialog::accept();  // goes there
-        path_ = completed(typed);
+        path_ = request_.completed(typed);
         const QFileInfo file{path_};
-        const QString told = obstacle(file);
-        if (!told.isEmpty()) return showMessage(this, QMessageBox::Critical, told);
-        if (mayReplace(file)) QDialog::accept();
+        const QString obstacle = request_.obstacle(file);
+        if (!obstacle.isEmpty()) return showMessage(this, QMessageBox::Critical, obstacle);
+        const QString question = QStringLiteral("%1 already exists.\nDo you want to replace it?");
+        const bool asks = request_.asksBeforeReplacing && file.exists();
+        if (!asks || askWhether(this, question.arg(file.fileName()))) QDialog::accept();
     }
 
   private:
+    const Request& request_;
     QString path_;
 };
 
-// A name typed without an extension gets the default one.
-QString withExtension(const QString& path, const char* extension) {
-    const bool has = QFileInfo{path}.fileName().contains(QLatin1Char('.'));
-    return has ? path : path + QLatin1Char('.') + latin(extension);
+// The extension is for a name without any dot.
+QString withExtension(const QString& path, const QString& extension) {
+    return QFileInfo{path}.fileName().contains(QLatin1Char('.')) ? path : path + extension;
 }
 
 QString obstacleToNewFile(const QFileInfo& file) {
     const QFileInfo folder{file.absolutePath()};
-    if (!folder.isDir()) return QFileDialog::tr("The folder does not exist.");
-    if (file.isDir()) return QFileDialog::tr("This is the name of a folder.");
-    if (file.fileName().toUtf8().size() > longestName) return QFileDialog::tr("The name is too long.");
-    if (!file.exists() && !folder.isWritable())
-        return QFileDialog::tr("Nothing can be saved in this folder.");
-    return {};
+    if (!folder.isDir()) return QStringLiteral("The folder does not exist.");
+    if (file.isDir()) return QStringLiteral("This is the name of a folder.");
+    const auto length = static_cast<std::size_t>(file.fileName().toUtf8().size());
+    if (length > longestFileName) return QStringLiteral("The name is too long.");
+    return folder.isWritable() ? QString{} : QStringLiteral("Nothing can be saved in this folder.");
 }
 
-class OpenDialog : public FileDialog {
-  public:
-    explicit OpenDialog(QWidget* parent)
-        : FileDialog(parent, AcceptOpen, "Select the source file", "Palace Lantern (*.plf)") {
-        setFileMode(ExistingFile);
-    }
+const Request chartToOpen{
+    QFileDialog::AcceptOpen, "Select the source file", "Palace Lantern (*.plf)",
+    [](const QString& path) { return QFileInfo::exists(path) ? path : path + QStringLiteral(".plf"); },
+    [](const QFileInfo& file) {
+        return file.exists() ? QString{} : QStringLiteral("There is no such file.");
+    }};
 
-  protected:
-    QString completed(const QString& path) const override {
-        return QFileInfo::exists(path) ? path : path + QStringLiteral(".plf");
-    }
-    QString obstacle(const QFileInfo& file) const override {
-        return file.exists() ? QString{} : tr("There is no such file.");
-    }
-};
+// Intentional: the default extension is "txt".
+const Request chartToSave{QFileDialog::AcceptSave,
+                          "Palace Lantern",
+                          "Palace Lantern (*.plf)",
+                          [](const QString& path) { return withExtension(path, QStringLiteral(".txt")); },
+                          [](const QFileInfo& file) {
+                              if (!file.isFile()) return obstacleToNewFile(file);
+                              return file.isWritable() ? QString{}
+                                                       : QStringLiteral("This file is read-only.");
+                          },
+                          true};
 
-class SaveDialog : public FileDialog {
-  public:
-    explicit SaveDialog(QWidget* parent)
-        : FileDialog(parent, AcceptSave, "Palace Lantern", "Palace Lantern (*.plf)") {}
-
-  protected:
-    // The extension "txt" is kept on purpose.
-    QString completed(const QString& path) const override { return withExtension(path, "txt"); }
-    QString obstacle(const QFileInfo& file) const override {
-        const bool closed = file.exists() && !file.isWritable();
-        return closed ? tr("This file is read-only.") : obstacleToNewFile(file);
-    }
-    bool mayReplace(const QFileInfo& file) override {
-        return !file.exists() ||
-               askWhether(this, tr("%1 already exists.\nDo you want to replace it?").arg(file.fileName()));
-    }
-};
-
-class PictureDialog : public FileDialog {
-  public:
-    explicit PictureDialog(QWidget* parent)
-        : FileDialog(parent, AcceptSave, "Save as JPG", "JPEG Image (*.jpg)") {
-        named(this, "CommonDialog1");
-    }
-
-  protected:
-    QString completed(const QString& path) const override { return withExtension(path, "jpg"); }
-    QString obstacle(const QFileInfo& file) const override {
-        const bool closed = file.exists() && !QFileInfo{file.absolutePath()}.isWritable();
-        return closed ? tr("Nothing can be saved in this folder.") : obstacleToNewFile(file);
-    }
-};
+const Request pictureToSave{QFileDialog::AcceptSave, "Save as JPG", "JPEG Image (*.jpg)",
+                            [](const QString& path) { return withExtension(path, latin(pictureExtension)); },
+                            obstacleToNewFile};
 
 }  // namespace
 
-QString askForChartFile(QWidget* parent) { return OpenDialog{parent}.ask(); }
-QString askWhereToSaveChart(QWidget* parent) { return SaveDialog{parent}.ask(); }
-QString askForPictureName(QWidget* parent) { return PictureDialog{parent}.ask(); }
+QString askForChartFile(QWidget* parent) {
+    FileDialog dialog{chartToOpen, parent};
+    dialog.setFileMode(QFileDialog::ExistingFile);
+    return dialog.ask();
+}
+
+QString askWhereToSaveChart(QWidget* parent) { return FileDialog{chartToSave, parent}.ask(); }
+
+QString askForPictureName(QWidget* parent) {
+    FileDialog dialog{pictureToSave, parent};
+    return named(&dialog, "CommonDialog1")->ask();
+}

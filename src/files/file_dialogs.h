@@ -12,5 +12,6 @@ QString askForChartFile(QWidget* parent);
 // A file that can be written; asks before one is overwritten.
 QString askWhereToSaveChart(QWidget* parent);
 
-// A file in a folder that takes new ones. The naming rule sees to it that none is overwritten.
+// A file in a folder that takes new ones. A name that is taken is not refused: the picture's naming rule
+// looks for a free one.
 QString askForPictureName(QWidget* parent);

@@ -6,7 +6,6 @@
 namespace {
 
 constexpr int lastCounter = 999;
-constexpr std::size_t longestName = 255;
 
 int lowered(char character) { return std::tolower(static_cast<unsigned char>(character)); }
 
@@ -29,9 +28,9 @@ std::string tidyFolder(std::string_view folder, const PictureSurroundings& aroun
 }
 
 std::string pictureNameFor(std::string_view name, const PictureSurroundings& around) {
-    if (name.empty()) return around.clock + ".jpg";
-    if (name.find('.') == std::string_view::npos) return std::string{name} + ".jpg";
-    return replaced(name, ".bmp", ".jpg");
+    if (name.empty()) return around.clock + std::string{pictureExtension};
+    if (name.find('.') == std::string_view::npos) return std::string{name}.append(pictureExtension);
+    return replaced(name, ".bmp", pictureExtension);
 }
 
 // Takes so many bytes or a few more, in whole characters, from in front of the first dot.
@@ -45,8 +44,8 @@ std::string shortened(std::string_view name, std::size_t excess) {
 std::string counted(std::string_view name, int counter) {
     const std::string mark = "_" + std::to_string(1000 + counter).substr(1) + ".";
     std::string whole = replaced(name, ".", mark);
-    if (whole.size() <= longestName) return whole;
-    return replaced(shortened(name, whole.size() - longestName), ".", mark);
+    if (whole.size() <= longestFileName) return whole;
+    return replaced(shortened(name, whole.size() - longestFileName), ".", mark);
 }
 
 }  // namespace
@@ -65,5 +64,6 @@ PictureName uniquePictureName(std::string_view folder, std::string_view name,
 
 std::string bitmapPathFor(const std::string& picturePath) {
     const auto nameStart = picturePath.rfind('/') + 1;  // 0 where there is no folder
-    return picturePath.substr(0, nameStart) + replaced(picturePath.substr(nameStart), ".jpg", ".bmp");
+    return picturePath.substr(0, nameStart) +
+           replaced(picturePath.substr(nameStart), pictureExtension, ".bmp");
 }

@@ -1,9 +1,13 @@
-// The name under which a picture is saved: never that of a file that is there already.
+// The name under which a picture is saved: a free one, until all counters are taken.
 #pragma once
 
+#include <cstddef>
 #include <functional>
 #include <string>
 #include <string_view>
+
+inline constexpr std::size_t longestFileName = 255;  // in bytes; file systems hold no longer ones
+inline constexpr std::string_view pictureExtension = ".jpg";
 
 // What the naming rule asks of the world around it.
 struct PictureSurroundings {
@@ -15,7 +19,7 @@ struct PictureSurroundings {
 struct PictureName {
     std::string folder;  // ends in "/"
     std::string name;
-    bool tooManyCopies;  // all 999 counters are taken, and the name is one that exists
+    bool tooManyCopies;  // all 999 counters are taken: the picture replaces the one of this name
 
     std::string path() const { return folder + name; }
 };

@@ -11,4 +11,4 @@ std::optional<std::string> readFile(const QString& path, std::size_t most);
 
 // Puts the bytes in the file. Returns whether they are there; if not, what was there before still is (but for
 // a file in a folder that takes no new ones, which is written in its place).
-bool writeFile(const QString& path, std::string_view bytes);
+[[nodiscard]] bool writeFile(const QString& path, std::string_view bytes);

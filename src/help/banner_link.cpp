@@ -1,17 +1,15 @@
 #include "help/banner_link.h"
 
-#include <QKeyEvent>
-#include <QStyleOptionFocusRect>
-#include <QStylePainter>
+#include <QPainter>
 
 #include "help/pages.h"
-#include "style/controls.h"
+#include "style/desktop_style.h"
 #include "style/look.h"
 
-BannerLink::BannerLink(const QFont& font, QWidget* form, QWidget* parent) : QAbstractButton(parent) {
+BannerLink::BannerLink(const QFont& font, QWidget* form, QWidget* parent) : PressArea(parent) {
     named(this, "lblBanner");
     setText(look::productName());
-    setAccessibleDescription(tr("Opens the home page"));
+    setAccessibleDescription(QStringLiteral("Opens the home page"));
     setFont(font);
     setFocusPolicy(Qt::StrongFocus);
     setCursor(Qt::PointingHandCursor);
@@ -25,18 +23,9 @@ QSize BannerLink::sizeHint() const {
     return fontMetrics().size(Qt::TextSingleLine, text()) + spare;
 }
 
-void BannerLink::keyPressEvent(QKeyEvent* event) {
-    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    enter ? click() : QAbstractButton::keyPressEvent(event);
-}
-
 void BannerLink::paintEvent(QPaintEvent*) {
-    QStylePainter painter{this};
+    QPainter painter{this};
     painter.setPen(look::linkColour(*this));
     painter.drawText(rect(), Qt::AlignCenter, text());
-    if (!hasFocus()) return;
-    QStyleOptionFocusRect option;
-    option.initFrom(this);
-    option.backgroundColor = palette().color(QPalette::Window);
-    painter.drawPrimitive(QStyle::PE_FrameFocusRect, option);
+    if (hasFocus()) DesktopStyle::drawFocusFrame(painter, rect(), palette());
 }

@@ -2,9 +2,9 @@
 // focus.
 #pragma once
 
-#include <QAbstractButton>
+#include "style/controls.h"
 
-class BannerLink : public QAbstractButton {
+class BannerLink : public PressArea {
     Q_OBJECT
   public:
     // On a form, in the font given.
@@ -13,6 +13,5 @@ class BannerLink : public QAbstractButton {
     QSize sizeHint() const override;
 
   protected:
-    void keyPressEvent(QKeyEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 };

@@ -1,13 +1,13 @@
 #include "help/frmAbout.h"
 
 #include <QGridLayout>
-#include <QIcon>
 #include <QLabel>
 #include <QShortcut>
 
 #include "help/pages.h"
 #include "style/controls.h"
 #include "style/look.h"
+#include "style/mark.h"
 
 namespace {
 
@@ -21,15 +21,11 @@ QLabel* plainLabel(const QString& text, const char* name) {
 
 frmAbout::frmAbout(QWidget* parent) : QDialog(parent) {
     named(this, "frmAbout");
-    setWindowTitle(tr("About Palace Lantern"));
-    auto* mark = new QLabel;
-    mark->setAccessibleName(tr("Lantern"));
-    mark->setPixmap(
-        QIcon{QStringLiteral(":/icons/palace-lantern-128.png")}.pixmap(QSize{64, 64}, devicePixelRatioF()));
+    setWindowTitle(QStringLiteral("About Palace Lantern"));
     QLabel* product = plainLabel(look::productName(), "lblProduct");
     product->setFont(look::titleFont());
-    QLabel* purpose =
-        plainLabel(tr("Casts a Zi Wei Dou Shu birth chart and explains it in plain English."), "lblPurpose");
+    QLabel* purpose = plainLabel(
+        QStringLiteral("Casts a Zi Wei Dou Shu birth chart and explains it in plain English."), "lblPurpose");
     purpose->setWordWrap(true);
     purpose->setMinimumWidth(260);
     QPushButton* cmdOk = newButton("cmdOk", "&OK", this, &QDialog::accept);
@@ -42,10 +38,11 @@ frmAbout::frmAbout(QWidget* parent) : QDialog(parent) {
     grid->setSizeConstraint(QLayout::SetFixedSize);
     grid->setContentsMargins(18, 18, 18, 14);
     grid->setHorizontalSpacing(16);
-    grid->addWidget(mark, 0, 0, 3, 1, Qt::AlignTop);
+    grid->addWidget(new Mark{64}, 0, 0, 3, 1, Qt::AlignTop);
     grid->addWidget(product, 0, 1);
-    grid->addWidget(plainLabel(tr("Version %1").arg(QStringLiteral(PALACE_LANTERN_VERSION)), "lblVersion"), 1,
-                    1);
+    grid->addWidget(
+        plainLabel(QStringLiteral("Version %1").arg(QStringLiteral(PALACE_LANTERN_VERSION)), "lblVersion"), 1,
+        1);
     grid->addWidget(purpose, 2, 1);
     grid->addWidget(cmdOk, 3, 1, Qt::AlignRight);
     cmdOk->setDefault(true);

@@ -4,7 +4,7 @@
 #include "help/pages.h"
 #include "style/controls.h"
 
-HelpMenu::HelpMenu(QWidget* form) : QMenu(tr("&Help"), form) {
+HelpMenu::HelpMenu(QWidget* form) : QMenu(QStringLiteral("&Help"), form) {
     named(this, "mnuHelp");
     const auto addPage = [this, form](const char* name, const char* caption, WebPage page,
                                       const QKeySequence& shortcut = {}) {

@@ -26,14 +26,13 @@ QString fileNameOf(WebPage page) {
 QDir helpFolder() {
     const QDir program{QCoreApplication::applicationDirPath()};
     const QDir beside{program.filePath(QStringLiteral("help"))};
-    return beside.exists() ? beside
-                           : QDir{program.filePath(QStringLiteral("../../share/palace-lantern/help"))};
+    return beside.exists() ? beside : QDir{program.filePath(QStringLiteral(PALACE_LANTERN_HELP_FOLDER))};
 }
 
-// The opener tells within seconds that it found no browser; what ends later was one.
+// xdg-open tells within seconds that it found no browser; a process that ends later was the browser.
 constexpr int patience = 10'000;  // milliseconds
 
-// In front of the dialog that may have been opened meanwhile.
+// A dialog may have been opened meanwhile, and would block a message behind it.
 void tellAddress(const QUrl& address, QWidget* asker) {
     QWidget* dialog = QApplication::activeModalWidget();
     showMessage(dialog != nullptr ? dialog : asker, QMessageBox::Information,
@@ -52,21 +51,25 @@ QUrl addressOf(WebPage page) {
         QUrl{fileNameOf(page)});
 }
 
-// By the opener of free desktops, which tells whether it worked, as QDesktopServices of Qt 6.4 does not;
-// where there is none, as the toolkit knows to. The opener has no parent: it may become the browser, and
-// outlives the program.
+// By xdg-open, which tells whether a browser took the page. Qt 6.8 still: QDesktopServices, which opens it
+// where there is no xdg-open, does not tell. The process has no parent, because it may become the browser,
+// which outlives the program. The connections are queued, so that no message runs inside the process's own
+// signals.
 void openPage(WebPage page, QWidget* asker) {
     const QUrl address = addressOf(page);
     auto* opener = new QProcess;
     QElapsedTimer time;
     time.start();
-    QObject::connect(opener, &QProcess::errorOccurred, asker, [=](QProcess::ProcessError error) {
+    const auto openOtherwise = [=](QProcess::ProcessError error) {
         if (error == QProcess::FailedToStart && !QDesktopServices::openUrl(address))
             tellAddress(address, asker);
-    });
-    QObject::connect(opener, &QProcess::finished, asker, [=](int code) {
+    };
+    const auto tellFailure = [=](int code) {
         if (code != 0 && time.elapsed() < patience) tellAddress(address, asker);
-    });
+    };
+    QObject::connect(opener, &QProcess::errorOccurred, asker, openOtherwise, Qt::QueuedConnection);
+    QObject::connect(opener, &QProcess::finished, asker, tellFailure, Qt::QueuedConnection);
+    QObject::connect(opener, &QProcess::errorOccurred, opener, &QObject::deleteLater);
     QObject::connect(opener, &QProcess::finished, opener, &QObject::deleteLater);
     opener->setStandardOutputFile(QProcess::nullDevice());
     opener->setStandardErrorFile(QProcess::nullDevice());

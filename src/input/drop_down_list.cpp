@@ -6,8 +6,8 @@
 
 namespace {
 
-// QListView of Qt 6.4 tells a screen reader that its current entry has the focus even while it is not shown,
-// as when a person types into the closed list.
+// Until Qt 6.8: QListView announces its current entry as focused even while the list is closed, as when a
+// person types into the box.
 class EntryView : public QListView {
   protected:
     void currentChanged(const QModelIndex& current, const QModelIndex& previous) override {
@@ -19,16 +19,15 @@ class EntryView : public QListView {
 }  // namespace
 
 DropDownList::DropDownList() {
+    setView(new EntryView);
     setFocusPolicy(Qt::StrongFocus);
     setMaxVisibleItems(16);
 }
 
-// QComboBox of Qt 6.4 drops down on Enter on some desktops. Its view is made when it is first needed, for
-// that takes a while.
+// Qt 6.8 still: QComboBox drops down on Enter where the desktop lets Enter press buttons, and does not cast.
 void DropDownList::keyPressEvent(QKeyEvent* event) {
-    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) return event->ignore();
-    if (view_ == nullptr) setView(view_ = new EntryView);
-    QComboBox::keyPressEvent(event);
+    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    enter ? event->ignore() : QComboBox::keyPressEvent(event);
 }
 
 void DropDownList::wheelEvent(QWheelEvent* event) {

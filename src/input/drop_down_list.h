@@ -1,4 +1,4 @@
-// A drop-down list that a person changes only while it has the focus, and that leaves Enter to its form.
+// A drop-down list that the wheel turns only while it has the focus, and that leaves Enter to its form.
 #pragma once
 
 #include <QComboBox>
@@ -11,7 +11,4 @@ class DropDownList : public QComboBox {
   protected:
     void keyPressEvent(QKeyEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
-
-  private:
-    QAbstractItemView* view_ = nullptr;
 };

@@ -4,23 +4,22 @@
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QLabel>
-#include <QLineEdit>
 #include <QMimeData>
 #include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QWindow>
 
 #include "files/chart_file.h"
-#include "files/file_dialogs.h"
-#include "files/saved_files.h"
 #include "help/banner_link.h"
 #include "help/help_menu.h"
 #include "input/birth_lists.h"
 #include "input/drop_down_list.h"
 #include "input/input_check.h"
-#include "input/name_validator.h"
+#include "input/name_box.h"
 #include "style/controls.h"
 #include "style/look.h"
+#include "style/mark.h"
 #include "style/message.h"
 
 namespace {
@@ -82,11 +81,14 @@ void frmMain::createControls() {
     rows->addWidget(createDetails());
     rows->addWidget(createButtons());
     rows->addStretch();
+    followFont();
 
-    // On a screen that is too small for the form, the form scrolls.
+    // On a screen that is too small for the form, the form scrolls; in a window that is too wide, as on a
+    // tiling desktop, its content stays in the middle.
     scroll_ = new QScrollArea;
     scroll_->setWidget(content);
     scroll_->setWidgetResizable(true);
+    scroll_->setAlignment(Qt::AlignHCenter);
     scroll_->setFrameShape(QFrame::NoFrame);
     scroll_->setFocusPolicy(Qt::NoFocus);
     auto* whole = new QVBoxLayout{this};
@@ -101,30 +103,24 @@ QWidget* frmMain::createBanner() {
     auto* banner = new QWidget;
     auto* row = new QHBoxLayout{banner};
     row->setContentsMargins(0, 0, 0, 0);
-    auto* mark = new QLabel;
-    mark->setAccessibleName(tr("Lantern"));
-    mark->setPixmap(windowIcon().pixmap(QSize{48, 48}, devicePixelRatioF()));
-    row->addWidget(mark);
-    row->addWidget(new BannerLink{look::titleFont(), this, banner});
+    row->addWidget(new Mark{48});
+    row->addWidget(lblBanner = new BannerLink{look::titleFont(), this, banner});
     row->addStretch();
     return banner;
 }
 
 QWidget* frmMain::createDetails() {
-    filter_ = new NameValidator{this};
-    // Through the event loop: a message must not be shown in the midst of the box's own work.
-    connectControl(filter_, &NameValidator::rejected, this, &frmMain::txtName_KeyPress, Qt::QueuedConnection);
-    txtName = named(new QLineEdit, "txtName");
-    txtName->setValidator(filter_);
+    txtName = named(new NameBox, "txtName");
+    // Queued: a modal message in the midst of the box's own work would disturb it.
+    connectControl(txtName, &NameBox::rejected, this, &frmMain::txtName_KeyPress, Qt::QueuedConnection);
     cmbDate = named(new DropDownList, "cmbDate");
     cmbMonth = named(new DropDownList, "cmbMonth");
     cmbYear = named(new DropDownList, "cmbYear");
     cmbHour = named(new DropDownList, "cmbHour");
     cmbMinute = named(new DropDownList, "cmbMinute");
 
-    auto* details = new QGroupBox{tr("Enter your Details")};
+    auto* details = new QGroupBox{QStringLiteral("Enter your Details")};
     details->installEventFilter(this);
-    txtName->installEventFilter(this);
     auto* grid = new QGridLayout{details};
     grid->setHorizontalSpacing(12);
     grid->setColumnStretch(2, 1);
@@ -153,9 +149,6 @@ QWidget* frmMain::createButtons() {
     cmdOpen = newButton("cmdOpen", "Click Here To Open Previously Saved Palace Lantern Interpretation", this,
                         &frmMain::cmdOpen_Click);
     cmExit = newButton("cmExit", "&Exit", this, &frmMain::cmExit_Click);
-    for (QPushButton* button : {cmdGenerateChart, cmdOpen, cmExit}) {
-        button->setMinimumHeight(button->fontMetrics().height() + 14);
-    }
 
     auto* buttons = new QWidget;
     auto* rows = new QVBoxLayout{buttons};
@@ -168,7 +161,7 @@ QWidget* frmMain::createButtons() {
 
 void frmMain::createMenus() {
     QMenuBar* menus = newMenuBar(this);
-    auto* mnuFile = named(menus->addMenu(tr("&File")), "mnuFile");
+    auto* mnuFile = addMenu(menus, "mnuFile", "&File");
     addEntry(mnuFile, "mnuGenerateChart", "Get My &Palace Lantern Chart", this,
              &frmMain::cmdGenerateChart_Click);
     // The name's spelling is the system's own.
@@ -185,37 +178,29 @@ void frmMain::cmdGenerateChart_Click() {
     if (passesCheck(birth)) emit entered(birth);
 }
 
-void frmMain::cmdOpen_Click() {
-    const QString path = askForChartFile(this);
-    if (!path.isEmpty() && fillFrom(path)) cmdGenerateChart_Click();
-}
+void frmMain::cmdOpen_Click() { emit openRequested(); }
 
 void frmMain::cmExit_Click() { close(); }
 
-// What the name's filter keeps out is told once for each key, and once for a whole paste.
 void frmMain::txtName_KeyPress() {
-    showMessage(this, QMessageBox::Information, tr("Please Enter Only Letters"));
+    showMessage(this, QMessageBox::Information, QStringLiteral("Please Enter Only Letters"));
 }
 
-bool frmMain::fillFrom(const QString& path) {
-    const auto bytes =
-        hasChartFileEnding(path.toStdString()) ? readFile(path, longestChartFile) : std::nullopt;
-    if (!bytes) {
-        showMessage(this, QMessageBox::Critical, tr("Please Check The File."));
-        return false;
-    }
-    const ChartFileValues values = chartFileValues(*bytes);
-    // A name from a file stands as it was saved; only what a person enters passes the filter.
-    txtName->setValidator(nullptr);
-    txtName->setText(latin(values.name));
-    txtName->setValidator(filter_);
+void frmMain::showInPlaceOf(const QWidget& frame) {
+    setScreen(frame.screen());
+    show();
+}
+
+void frmMain::fillIn(const ChartFileValues& values) {
+    txtName->setName(latin(values.name));
     selectText(cmbDate, values.day);
     selectText(cmbMonth, values.month);
     selectText(cmbYear, values.year);
-    return true;
 }
 
-void frmMain::askForTime() { cmbHour->setFocus(); }
+void frmMain::askForTime() {
+    if (passesCheck(entry())) cmbHour->setFocus();
+}
 
 bool frmMain::passesCheck(const BirthEntry& birth) {
     const auto failure = checkBirthEntry(birth);
@@ -238,10 +223,12 @@ void frmMain::showDate(const PickedDate& date) {
     cmbYear->setCurrentIndex(date.yearPosition);
 }
 
-void frmMain::refuseDate() { showMessage(this, QMessageBox::Information, tr("Please Enter Correct Date")); }
+void frmMain::refuseDate() {
+    showMessage(this, QMessageBox::Information, QStringLiteral("Please Enter Correct Date"));
+}
 
 void frmMain::clearEntry() {
-    txtName->setText({});  // which, other than clear(), can't be undone
+    txtName->setName({});
     for (QComboBox* list : {cmbDate, cmbMonth, cmbYear, cmbHour, cmbMinute}) list->setCurrentIndex(0);
     txtName->setFocus();
 }
@@ -251,54 +238,77 @@ void frmMain::closeEvent(QCloseEvent* event) {
     emit closed();
 }
 
-void frmMain::dragEnterEvent(QDragEnterEvent* event) {
-    if (mayAct(*this) && !chartFileIn(*event->mimeData()).isEmpty()) event->acceptProposedAction();
+// One chart file, while no dialog is open. It is copied, whatever is proposed: the sender deletes what is
+// moved.
+void frmMain::considerDrop(QDropEvent* event) {
+    event->setDropAction(Qt::CopyAction);
+    event->setAccepted(mayAct(*this) && !chartFileIn(*event->mimeData()).isEmpty());
 }
 
+void frmMain::dragEnterEvent(QDragEnterEvent* event) { considerDrop(event); }
+void frmMain::dragMoveEvent(QDragMoveEvent* event) { considerDrop(event); }
+
 void frmMain::dropEvent(QDropEvent* event) {
-    event->acceptProposedAction();
-    // Later, so that the window from which the file comes need not wait for the chart.
+    considerDrop(event);
+    if (!event->isAccepted()) return;
+    // Queued, so that the sender need not wait for the chart.
     const auto open = [this, path = chartFileIn(*event->mimeData())] {
-        if (mayAct(*this) && fillFrom(path)) cmdGenerateChart_Click();
+        if (mayAct(*this)) emit fileDropped(path);
     };
     QMetaObject::invokeMethod(this, open, Qt::QueuedConnection);
 }
 
+// Qt 6.8 still: QGroupBox swallows Enter where the desktop lets Enter press buttons, and the name box would
+// not cast.
 bool frmMain::eventFilter(QObject* watched, QEvent* event) {
-    const bool isKey = event->type() == QEvent::KeyPress || event->type() == QEvent::KeyRelease;
-    const bool isDrag = event->type() == QEvent::DragEnter;
-    // QGroupBox of Qt 6.4 swallows Enter on some desktops, which is meant for the form's default button; and
-    // a file that is dragged over the name box is meant for the form, though it comes with a text, too.
-    if ((watched == txtName && isDrag && static_cast<QDragEnterEvent*>(event)->mimeData()->hasUrls()) ||
-        (watched != txtName && isKey)) {
-        event->ignore();
-        return true;
-    }
-    return QDialog::eventFilter(watched, event);
+    if (event->type() != QEvent::KeyPress && event->type() != QEvent::KeyRelease)
+        return QDialog::eventFilter(watched, event);
+    event->ignore();
+    return true;
 }
 
 // Escape in the first window of the program would lose what was entered: it does nothing.
 void frmMain::reject() {}
 
-// Fitted anew each time: the screen may have changed while the form was hidden.
+void frmMain::changeEvent(QEvent* event) {
+    QDialog::changeEvent(event);
+    if (event->type() == QEvent::FontChange) followFont();
+}
+
+// What is measured by the desktop's font, which may change.
+void frmMain::followFont() {
+    lblBanner->setFont(look::titleFont());
+    for (QPushButton* button : {cmdGenerateChart, cmdOpen, cmExit})
+        button->setMinimumHeight(fontMetrics().height() + 14);
+    // Queued, because the layouts take the new sizes later.
+    if (isVisible()) QMetaObject::invokeMethod(this, &frmMain::fitToScreen, Qt::QueuedConnection);
+}
+
+// Fitted anew each time: the screen may have changed while the form was hidden, or may change later.
 void frmMain::setVisible(bool visible) {
-    if (visible) fitToScreen();
+    if (visible) {
+        fitToScreen();
+        const QRect room = screen()->availableGeometry();
+        const QSize rest = (room.size() - size()) / 2;
+        move(room.topLeft() + QPoint{rest.width(), rest.height() / 2});
+    }
     QDialog::setVisible(visible);
+    if (visible)
+        connect(windowHandle(), &QWindow::screenChanged, this, &frmMain::fitToScreen, Qt::UniqueConnection);
     setAttribute(Qt::WA_KeyboardFocusChange);  // else some styles show the focus only after a key
 }
 
-// As large as its content and in the middle of the screen. Where the screen is smaller, the form scrolls.
+// As large as its content, as far as the screen allows.
 void frmMain::fitToScreen() {
-    const QRect available = screen()->availableGeometry();
-    const QSize room = available.size() - QSize{16, 40};
+    const QSize room = screen()->availableSize() - QSize{16, 40};
     // A little more than needed: the longest button gets room round its words, and at fractional scales,
-    // windows are rounded to whole dots of the screen.
+    // windows are rounded to whole device pixels.
     constexpr QSize spare{24, 2};
-    QSize size = scroll_->widget()->sizeHint() + QSize{0, layout()->menuBar()->sizeHint().height()} + spare;
+    const QSize content = scroll_->widget()->sizeHint();
+    scroll_->widget()->setMaximumWidth(content.width() * 5 / 4);
+    QSize size = content + QSize{0, layout()->menuBar()->sizeHint().height()} + spare;
     if (size.height() > room.height()) size.rwidth() += scroll_->verticalScrollBar()->sizeHint().width();
     size = size.boundedTo(room);
     setMinimumSize(size);
     resize(size);
-    const QSize rest = (available.size() - size) / 2;
-    move(available.topLeft() + QPoint{rest.width(), rest.height() / 2});
 }

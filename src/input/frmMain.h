@@ -5,12 +5,13 @@
 
 #include "chart/birth_entry.h"
 
-class NameValidator;
+class BannerLink;
+class NameBox;
 class QComboBox;
 class QGridLayout;
-class QLineEdit;
 class QPushButton;
 class QScrollArea;
+struct ChartFileValues;
 
 class frmMain : public QDialog {
     Q_OBJECT
@@ -20,12 +21,14 @@ class frmMain : public QDialog {
 
     void setVisible(bool visible) override;
 
-    // Fills the name and the date lists from a chart file and returns whether it could be read; a value that
-    // is no entry leaves its list as it was. Says so where the name or the file is not that of a chart file;
-    // the form then stays as it is.
-    bool fillFrom(const QString& path);
+    // Shows the form on the screen of the frame that it takes the place of.
+    void showInPlaceOf(const QWidget& frame);
 
-    // For a chart file that was opened with the program: the time, which no chart file keeps, comes next.
+    // Fills in the name and the date of a chart file. A value that is no entry leaves its list as it was.
+    void fillIn(const ChartFileValues& values);
+
+    // For a chart file that was opened with the program: checks what was filled in and moves the focus to the
+    // time of birth, which no chart file holds.
     void askForTime();
 
     // Selects the date for which the chart was cast, which the midnight rule may have moved.
@@ -44,18 +47,24 @@ class frmMain : public QDialog {
 
   signals:
     void entered(const BirthEntry& entry);  // has passed the check
+    void openRequested();
+    void fileDropped(const QString& path);  // one with the ending of a chart file
     void closed();
 
   protected:
+    void changeEvent(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
+    void dragMoveEvent(QDragMoveEvent* event) override;
     void dropEvent(QDropEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
     void reject() override;
 
   private:
     void Form_Load();
+    void considerDrop(QDropEvent* event);
     void fitToScreen();
+    void followFont();
     void createControls();
     void createMenus();
     QWidget* createBanner();
@@ -67,8 +76,8 @@ class frmMain : public QDialog {
     BirthEntry entry() const;
 
     QScrollArea* scroll_;
-    QLineEdit* txtName;
-    NameValidator* filter_;
+    BannerLink* lblBanner;
+    NameBox* txtName;
     QComboBox* cmbDate;
     QComboBox* cmbMonth;
     QComboBox* cmbYear;

@@ -14,6 +14,5 @@ struct InputFailure {
     InputField field;
 };
 
-// The first failure, or nothing where the entry will do: the name is not empty (blanks will do), and the
-// month has the day.
+// The first failure, or nothing: the name must not be empty (blanks are enough), and the date must exist.
 std::optional<InputFailure> checkBirthEntry(const BirthEntry& entry);

@@ -6,12 +6,12 @@
 
 namespace {
 
-constexpr TextStyle heading{true, 9, {13, 36, 166}};
-constexpr TextStyle palaceBody{true, 8, {101, 14, 14}};
+constexpr TextStyle heading{true, 9, analysisBlue};
+constexpr TextStyle palaceBody{true, 8, analysisBrown};
 constexpr TextStyle starGeneral{true, 8, {0, 0, 0}};
-constexpr TextStyle starInPalaceBody{true, 8, {101, 14, 14}};
+constexpr TextStyle starInPalaceBody{true, 8, analysisBrown};
 constexpr TextStyle intro{true, 8, {0, 0, 0}};
-constexpr TextStyle detailsLine{true, 8, {128, 0, 0}};
+constexpr TextStyle detailsLine{true, 8, analysisRed};
 
 constexpr std::string_view paragraphEnd = "\r\n\r\n";
 constexpr std::string_view bodyPalaceHeading = "Body Palace :- ";
@@ -29,14 +29,15 @@ void append(Runs& runs, std::string_view headingText, std::string_view body, con
 }
 
 void appendStar(Runs& runs, std::size_t star, std::size_t palace) {
-    append(runs, starTexts[star].heading, starTexts[star].general, starGeneral);
+    const std::string name{fieldOf(starTexts[star].star).text.text()};
+    append(runs, name + " Star :- ", starTexts[star].general, starGeneral);
     runs.push_back(paragraph(starInPalaceTexts[star][palace], starInPalaceBody));
 }
 
-// The index of the palace whose name stands in the cell, or palaceTextCount where the name is not known.
+// The index of the palace whose name stands in the cell, or one past the last where the name is not known.
 std::size_t palaceIn(const ChartModel& chart, CellIndex cell) {
-    const auto found = std::ranges::find(palaceTexts, chart.cell(cell).lblPalace.text(), &PalaceText::key);
-    return static_cast<std::size_t>(found - palaceTexts.begin());
+    const auto found = std::ranges::find(palaceNames, chart.cell(cell).lblPalace);
+    return static_cast<std::size_t>(found - palaceNames.begin());
 }
 
 void appendPalace(Runs& runs, const ChartModel& chart, CellIndex cell) {

@@ -1,31 +1,29 @@
 #include "interpret/texts.h"
 
-// One text a line, one block a star, the palaces in the order of palaceTexts. Tian Xing shares three texts
-// with Tian Ji and has two more nearly so: kept on purpose.
+// One text a line, one block a star, the palaces in the order of palaceNames. Intentional: Tian Xing
+// has three texts of Tian Ji, and two more that hardly differ.
 // clang-format off
-const std::array<std::array<std::string_view, palaceTextCount>, starTextCount> starInPalaceTexts{{
-    {{
-        // Zi Wei
+const std::array<std::array<std::string_view, palaceNames.size()>, starTextCount> starInPalaceTexts{{
+    {{  // Zi Wei
         "With the Zi Wei Star in the Life Palace you possess a commanding personality. You want the best of everything. People come to you for decisions and you do not like to be told what to do.",
         "Brothers and sisters respect you and never go against your decisions.",
         "Zi Wei in the marriage palace is good for late marriages only. You will get a spouse from a high family, who is capable as well as dominating by nature.",
         "Children are gifted with leadership qualities and it is difficult for you to control them. They will be gaining name and fame in life. ",
         "With the Zi Wei Star in the Life Palace you do not have to be bothered about your financial condition. Finance comes to you very easily.",
         "Be careful as Zi Wei in this palace may lead to digestive problems and also ailments related to your stomach and spleen.",
-        "Outside your hometown you are treated like a guest of honor, and influential people come to your aid. Moving to another city raises your position.",
+        "You get a lot of respect outside your hometown and influential people are there to help you. Shifting to another city is good for your position.",
         "Zi Wei in the friends palace denotes that your friends are of high position. You get a lot of help and respect because of them at your work place as well as in the society.",
         "You are fit for high posts in administration and government. Leadership comes to you very easily. Strictly avoid partnerships and junior posts.",
         "You will be having a big house in a good locality. Property is inherited and also purchased. The surroundings are peaceful and neighbors are respectable people.",
         "The Emperor Star in the karma palace gives you noble thoughts and high standards and also a bit of loneliness. ",
         "Your parents are respectable and live long. They want to take the decisions in the matter of your career and marriage also.",
     }},
-    {{
-        // Tian Ji
+    {{  // Tian Ji
         "You are quick in learning and love changes, but due to too many works and ideas at the same time most of them remain incomplete.",
         "Brothers and sisters are intelligent and active like you, but due to frequent relocation you do not stay together.  ",
         "Tian Ji in the marriage palace is not good as it signifies an unstable marital life.",
         "There will be l or 2 children, who are smart and restless by nature.",
-        "Your income comes from several sources, none of them steady, and depends upon your wit. What one new idea earns, the next one spends.",
+        "You have many sources of income but none of them is steady. You earn by your intelligence, and the money is spent on some new idea very soon.",
         "Natives of Tian Ji may suffer from nervousness and lack of sleep and also from other problems related to too much of thinking.",
         "Relocation is very much indicated and is good for you. You will be traveling throughout your life. Minor traffic accidents are possible.",
         "You will have a large number of friends and acquaintances, but due to frequent traveling your friend circle too changes.",
@@ -34,8 +32,7 @@ const std::array<std::array<std::string_view, palaceTextCount>, starTextCount> s
         "You want to learn new things. You are generous yet stingy about petty things. ",
         "Tian Ji in the parents' palace denotes that your parents' life is unstable.",
     }},
-    {{
-        // Tai Yang
+    {{  // Tai Yang
         "With the blessings of the Sun you are open hearted and frank by temperament. You can not say no to anybody in money matters. People have a soft corner for you.",
         "Brothers and sisters are warm hearted and of good position, and you get help from them in money matters and also in your career.",
         "The Sun in this palace promises a respected and successful husband to women. Men will get a dominating wife from a well known family. Too much of public work is not good for your marital life.",
@@ -47,10 +44,9 @@ const std::array<std::array<std::string_view, palaceTextCount>, starTextCount> s
         "Politics or teaching or any kind of social work is good for you. Early recognition is there for those of you who are born in the day. You people make good speakers too, and will rise to a high position.",
         "You inherit property from your father's side. The other relatives too get a share in it due to your generous nature and not much is left with you in the end.",
         "You are an optimist and like to make others happy. You are always busy with something and your sleep is less.",
-        "The father is the stronger of your two parents and shapes your character. He prospers if your birth is by day; by night, his work keeps him away from you.",
+        "Your father is stronger than your mother and you become like him. He prospers if you are born in the day. In case of birth at night he is too busy with his work.",
     }},
-    {{
-        // Wu Qu
+    {{  // Wu Qu
         "You are practical and honest and speak only when it is required. You do not show your emotions. People find it difficult to come near you.",
         "You are not very close to your brothers and sisters due to your work.",
         "Early marriage is not good for you. Romance is less and money matters are discussed more. There may be separation if both you and your spouse are too busy with your work.",
@@ -58,14 +54,13 @@ const std::array<std::array<std::string_view, palaceTextCount>, starTextCount> s
         "Wu Qu is very good in the money palace. You have to work hard but your income is steady and the losses are very less.",
         "You may suffer from asthma and cough and also problems related to your lungs. Injuries due to metal objects are possible as well.",
         "Most of your traveling is related to business and it is profitable for you.",
-        "As you have no time for idle talk, your circle is small. Colleagues admire your work but find you cold. The few who stay are dependable in need.",
+        "You do not like idle talk and your friends are few but dependable. Colleagues respect you for your work and find you a bit cold.",
         "Wu Qu in the career palace is very good as it signifies high posts in finance, engineering and the army, but you get the results of your labor only after 35 years of age.",
         "You will acquire property with your own money and that too in the later part of life. Inheritance is nothing much.  ",
         "You think about work all the time. You are a moral person but a bit dry.",
         "Your parents are hard working and strict and do not express their love in words. You become independent at an early age and do not take any help from them.",
     }},
-    {{
-        // Tian Tong
+    {{  // Tian Tong
         "You are soft natured and have a tendency to put on weight. Everybody likes you. Fights and competitions are not for you.",
         "Relationship with brothers and sisters is loving and you enjoy life together.",
         "Marital bliss is very much there. Your spouse is romantic and both of you are too easy going to look after the household matters.",
@@ -79,8 +74,7 @@ const std::array<std::array<std::string_view, palaceTextCount>, starTextCount> s
         "You want to enjoy each and every moment. You are an optimist and dream a lot.",
         "Your parents are loving people with a happy marital life. You depend on them for money and decisions for very long.",
     }},
-    {{
-        // Lian Zhen
+    {{  // Lian Zhen
         "You are well dressed and diplomatic and can get your work done from anybody, but you take even a small insult to heart and remember it for years.",
         "Rivalry is indicated between you and your brothers and sisters. They are ambitious like you and do well in life.",
         "Lian Zhen in this palace may lead to jealousy and separation. You are likely to get an ambitious and good looking spouse, and late marriage is better for you.",
@@ -90,27 +84,25 @@ const std::array<std::array<std::string_view, palaceTextCount>, starTextCount> s
         "Relocation is good for you as you make contacts easily in every place. Minor accidents and quarrels with strangers are possible on the road.",
         "You will have a wide circle of friends and contacts, but due to jealousy some of them may turn into enemies and talk ill of you.",
         "Government service is the best for you. You will rise to a high position due to your contacts. Some hidden enemies are also there in your work place and you should be careful about them.",
-        "Inherited property may be disputed among the relatives. Beware of a secret affair under your own roof, for it will not remain secret.",
+        "There may be disputes with your relatives over inherited property. Extra-marital affairs, if any, do not remain secret.",
         "You are very particular about your image and can not digest criticism.",
         "Lian Zhen in the parents' palace indicates that your parents are ambitious and have a good position in society. They are never fully satisfied with you and there may be differences because of it.",
     }},
-    {{
-        // Tian Fu
+    {{  // Tian Fu
         "You are calm and patient. Changes do not suit you and you take a lot of time in each and every decision. Others find you slow.",
         "You will have 4 or 5 brothers and sisters and all of them are trustworthy.",
         "Your spouse is capable and handles the household finance very well. Marital life is stable. Both of you trust each other and are not very romantic.",
         "Tian Fun promises good children who are careful with money from an early age.",
         "The Emperor's Treasury in the Life Palace or in this palace is the best. You will never face any financial crisis.",
-        "You guard your health as carefully as your purse, and only the stomach complains when you eat too much.",
+        "You are careful about your health, and only minor stomach problems are possible due to overeating.",
         "There is no need for you to relocate in order to get success. Traveling is safe and comfortable and no accidents are indicated.",
         "You will have few friends, who are trustworthy and financially sound and help you with money as well as advice in your times of need.",
         "Banking or insurance or accounts is best for you. Avoid all those jobs where there is risk. Rise in position is slow but permanent. You people make good landlords also.",
-        "Tian Fu in the property palace is excellent as you inherit land and also purchase new ones. Extra-marital affairs are not there.",
+        "Tian Fu in the property palace is excellent as you inherit land and also purchase new ones. You are faithful and family life is secure.",
         "Your peace of mind is very much dependent upon your financial condition.",
         "Your parents are wealthy and live long. They do not spend much on themselves and you will inherit a good amount from them.",
     }},
-    {{
-        // Tai Yin
+    {{  // Tai Yin
         "You are shy and emotional and your mood changes very soon. You like to remain at home with your family and keep the house clean.",
         "You have more sisters than brothers and your relationship with them is close. One of them may help you in money matters.",
         "The Moon in this palace gives you a beautiful and gentle spouse. Men gain wealth through their wives. In case of women, the husband is a bit too emotional.",
@@ -122,14 +114,13 @@ const std::array<std::array<std::string_view, palaceTextCount>, starTextCount> s
         "Tai Yin in the career palace is good for all kind of work related to beauty and art, and women in high positions will be helpful to you. Too much of competition is not suitable for your health.",
         "You will be having a beautiful house in quiet surroundings. Property from the mother's side is also there. ",
         "Tai Yin in the karma palace makes you sensitive and a bit pessimistic by nature, and you need music and quiet places for your peace of mind.",
-        "You are attached to your mother, who may not keep good health if you are born in the day.",
+        "You are attached to your mother, whose health needs a bit of care in her old age.",
     }},
-    {{
-        // Tan Lang
+    {{  // Tan Lang
         "You are attractive and multi talented and people get influenced by you very easily. You want everything at the same time and too many desires are there.",
         "Step brothers or step sisters are possible. There is lack of trust in the relationship. Business with them is not advisable for you.",
-        "Tan Lang in the marriage palace denotes romances before as well as after marriage. Late marriage is better for you as it is not easy to remain with one person.",
-        "One of your children is talented and becomes popular in music or films. Sexual desires are strong in you and you are not satisfied very easily.",
+        "Tan Lang in the marriage palace denotes romance before as well as after marriage. Late marriage is better for you as you like freedom and take time to settle down.",
+        "One of your children is talented and becomes popular in music or films. You are romantic by nature and sexual life is important to you.",
         "Sudden gains and sudden losses are both o the cards. You people should stay away from gambling and speculation.",
         "Drinking and other bad habits may lead to diseases of your liver and kidneys.",
         "You will be traveling a lot for pleasure and romance. Foreign places attract you. Avoid driving after drinks.",
@@ -139,13 +130,12 @@ const std::array<std::array<std::string_view, palaceTextCount>, starTextCount> s
         "Tan Lang in the karma palace gives you too many desires and you are never satisfied.",
         "Your parents are free thinking people and give you a lot of freedom from childhood, but their own marital life is not very stable and there may be a separation at some time.",
     }},
-    {{
-        // Ju Men
+    {{  // Ju Men
         "You have a sharp memory and good speaking power. You are doubtful by nature and ask too many questions, and it is because of this that some people take you to be rude and keep away from you.",
         "Misunderstandings with brothers and sisters are indicated due to your words.",
         "Too many arguments are there in your marital life over small and useless things. A spouse elder to you is better for marital bliss.",
         "Children are talkative and intelligent. You get into arguments with them very often. Fields like law and teaching are good for them.",
-        "Your mouth earns your bread, be it by teaching, selling or pleading. Disputes over payment are common unless all is put down in writing.",
+        "You earn money by speaking, so teaching or sales or legal work is profitable for you. Disputes over payment are common if there is nothing in writing.",
         "You may have problems related to your teeth, mouth and throat, and stomach too remains upset due to wrong food and too much of tension.",
         "Ju Men in the travel palace indicates disputes in foreign places. You are good at learning foreign languages and this is helpful to you in your work.",
         "You may lose some of your friends and colleagues due to misunderstandings. Loyal friends are very few.",
@@ -154,11 +144,10 @@ const std::array<std::array<std::string_view, palaceTextCount>, starTextCount> s
         "You are a bit pessimistic by nature and doubt everything. Silence for some time daily is good for your peace of mind and also for your relationships.",
         "Your parents have arguments with each other and also with you. One of them may not be keeping good health.",
     }},
-    {{
-        // Tian Xing
+    {{  // Tian Xing
         "You are sincere and helpful to all. Everybody depends on you for their work. Credit and promotion go to somebody else and you do not say anything.",
         "You are very helpful to your brothers and sisters and ask them before every decision.",
-        "Your spouse may be someone known to your family for years. It is a sensible marriage, in which you gladly leave the important decisions to your partner.",
+        "Your spouse may be a person known to your family. Marital life is peaceful as both of you are sensible and you leave the important decisions to your partner.",
         "Your children are disciplined and hard working and settle in good service.",
         "With Tian Xing in the money palace you will have a fixed source of income, which is neither high nor low. Business is not good for you as you do not like to take risks, and partnership too should be avoided.",
         "You have good stamina, but too much of work may lead to back problems and also diseases related to the skin.",
@@ -169,10 +158,9 @@ const std::array<std::array<std::string_view, palaceTextCount>, starTextCount> s
         "You want to learn new things. You are generous yet stingy about petty things.",
         "Tian Xing in the parents' palace denotes that your parents' life is unstable.",
     }},
-    {{
-        // Tian Liang
+    {{  // Tian Liang
         "You are a mature and respectable person and others come to you for advice. You like to guide people. At times you interfere in matters which are not yours.",
-        "An elder brother or sister will guard you like a parent. If you are the eldest yourself, then you become the guardian.",
+        "An elder brother or sister protects you like a parent. In case you are the eldest, then you have to take care of the others.",
         "Your spouse is mature and elder to you and takes care of you like a guardian, and the marital life is long.",
         "Tian Liang in the children palace signifies healthy and obedient children. They may be born a bit late, and you will be having their support for very long.",
         "With Tian Liang in the money palace you do not become very rich, but in every financial crisis some elder person is there to help you.",
@@ -184,13 +172,12 @@ const std::array<std::array<std::string_view, palaceTextCount>, starTextCount> s
         "You are optimistic and spiritual by nature and your bad times go away very easily.",
         "Tian Liang in the parents' palace denotes that your parents will have a long life and good health. They have moral values and protect you in your bad times.",
     }},
-    {{
-        // Qi Sha
+    {{  // Qi Sha
         "You are bold and like to do everything on your own without the help of others. Early life is full of ups and downs and you settle down after 40 years of age.",
         "You do not get along with your brothers and sisters and may live separately.",
         "Qi Sha in the marriage palace signifies clashes with the spouse, who is as independent as you. You are practical and not emotional in matters of marriage.",
         "Your children are bold and leave home early. Minor injuries are possible in their childhood. Control over them is not possible.",
-        "In the matter of money you take risks which frighten others. Fortunes are made and lost at a stroke, so put something aside in the good years.",
+        "You take risks in money matters which others do not dare to take. Big gains and big losses are there, and you should save something in your good years.",
         "Health is not good in your childhood. Afterwards you become strong and do not fall ill very often. Small injuries and operations are possible.",
         "Qi Sha in the travel palace indicates that you are always active and moving. ",
         "You have bold and independent friends, and differences with them are very common as all of you have a strong personality.",

@@ -11,6 +11,11 @@ struct Rgb {
     friend constexpr bool operator==(const Rgb&, const Rgb&) = default;
 };
 
+// The colours of an analysis, which the windows take up.
+inline constexpr Rgb analysisBlue{13, 36, 166};
+inline constexpr Rgb analysisBrown{101, 14, 14};
+inline constexpr Rgb analysisRed{128, 0, 0};
+
 struct TextStyle {
     bool bold;
     int size;  // in points

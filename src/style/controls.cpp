@@ -1,22 +1,13 @@
 #include "style/controls.h"
 
 #include <QApplication>
+#include <QKeyEvent>
 #include <QShortcutEvent>
-
-QString latin(std::string_view text) {
-    return QString::fromLatin1(text.data(), static_cast<qsizetype>(text.size()));
-}
-
-QString latinLines(std::string_view text) {
-    return latin(text).replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
-}
 
 bool mayAct(const QWidget& form) {
     const QWidget* dialog = QApplication::activeModalWidget();
     return form.isVisible() && (dialog == nullptr || dialog == form.window());
 }
-
-bool placesAreKnown() { return !QGuiApplication::platformName().startsWith(QStringLiteral("wayland")); }
 
 CommandButton::CommandButton(const char* caption, QWidget* parent) : QPushButton(latin(caption), parent) {
     setAutoDefault(true);
@@ -29,9 +20,18 @@ bool CommandButton::event(QEvent* event) {
     return true;
 }
 
+void PressArea::keyPressEvent(QKeyEvent* event) {
+    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    enter ? click() : QAbstractButton::keyPressEvent(event);
+}
+
 QMenuBar* newMenuBar(QWidget* window) {
     auto* menus = new QMenuBar{window};
     menus->setNativeMenuBar(false);
     menus->setContextMenuPolicy(Qt::PreventContextMenu);
     return menus;
+}
+
+QMenu* addMenu(QMenuBar* menus, const char* name, const char* caption) {
+    return named(menus->addMenu(latin(caption)), name);
 }

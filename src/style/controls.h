@@ -1,4 +1,4 @@
-// Small helpers for the controls of all forms: their names, their texts, and when they may act.
+// The controls of all forms: how they are named, when they act, and what presses them.
 #pragma once
 
 #include <QMenuBar>
@@ -6,11 +6,7 @@
 #include <functional>
 #include <string_view>
 
-// The text of the core as the toolkit's; each byte is a character of Latin-1.
-QString latin(std::string_view text);
-
-// The same, with CR LF as the one line break that labels and text views know.
-QString latinLines(std::string_view text);
+#include "style/text.h"
 
 // Gives the control its name and returns it.
 template <class Control>
@@ -19,16 +15,13 @@ Control* named(Control* control, std::string_view name) {
     return control;
 }
 
-// Whether a form may act on what a person does with its controls: it is shown, and no dialog stands before
-// it. A press can reach a form late, when it has opened a dialog or has gone already: a shortcut's, the
-// second half of a double click, one from the accessibility bus. Every control of every form asks, so one
-// thing happens at a time, whatever the hands do.
+// Whether a form may act on its controls: it is visible, and no other modal dialog is open. Every handler is
+// connected through connectControl(), which asks, because input can be delivered late, when the form has
+// opened a dialog or is hidden: an access key, the second half of a double click, a press over the
+// accessibility bus.
 bool mayAct(const QWidget& form);
 
-// Whether the places of windows and of the pointer on the screen are known. Under Wayland no program is told.
-bool placesAreKnown();
-
-// Lets a control's signal call the form's handler, as long as the form may act.
+// Connects a control's signal to the form's handler, which is called only while the form may act.
 template <class Sender, class Signal, class Form, class Handler>
 void connectControl(Sender* sender, Signal signal, Form* form, Handler handler,
                     Qt::ConnectionType type = Qt::AutoConnection) {
@@ -38,14 +31,25 @@ void connectControl(Sender* sender, Signal signal, Form* form, Handler handler,
     QObject::connect(sender, signal, form, act, type);
 }
 
-// A button that acts at once when its access key is pressed (QAbstractButton of Qt 6.4 shows itself pressed
-// for a tenth of a second first, and another key may come between), and by Enter on every desktop.
+// A button that Enter presses on every desktop. Qt 6.8 still: the access key of a QAbstractButton clicks only
+// after a tenth of a second, in which the next key still reaches the old window (Alt+B, then Enter on a
+// palace). Here it clicks at once.
 class CommandButton : public QPushButton {
   public:
     explicit CommandButton(const char* caption, QWidget* parent = nullptr);
 
   protected:
     bool event(QEvent* event) override;
+};
+
+// A control that draws itself and is pressed like a button, by Enter too.
+class PressArea : public QAbstractButton {
+    Q_OBJECT
+  public:
+    using QAbstractButton::QAbstractButton;
+
+  protected:
+    void keyPressEvent(QKeyEvent* event) override;
 };
 
 // A named button with its caption and the form's handler.
@@ -57,8 +61,8 @@ QPushButton* newButton(const char* name, const char* caption, Form* form, Handle
     return button;
 }
 
-// Adds a named entry with its caption and the form's handler to a menu. It acts through the event loop, so
-// that who chooses it over the accessibility bus is answered before a box opens.
+// Adds a named entry with its caption and the form's handler to a menu. The connection is queued, so that a
+// press over the accessibility bus is answered before a dialog opens.
 template <class Form, class Handler>
 QAction* addEntry(QMenu* menu, const char* name, const char* caption, Form* form, Handler handler,
                   const QKeySequence& shortcut = {}) {
@@ -67,5 +71,8 @@ QAction* addEntry(QMenu* menu, const char* name, const char* caption, Form* form
     return entry;
 }
 
-// A menu bar inside the window, without a menu of its own behind the right button.
+// A menu bar inside the window, without a context menu.
 QMenuBar* newMenuBar(QWidget* window);
+
+// Adds a named menu with its caption.
+QMenu* addMenu(QMenuBar* menus, const char* name, const char* caption);

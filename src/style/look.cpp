@@ -50,6 +50,15 @@ double contrast(const QColor& one, const QColor& other) {
     return (lighter + 0.05) / (darker + 0.05);
 }
 
+QColor focusColour(const QPalette& palette) {
+    constexpr double distinct = 3;
+    const QColor highlight = palette.color(QPalette::Highlight);
+    for (const auto beside : {QPalette::Window, QPalette::Base, QPalette::Button}) {
+        if (contrast(highlight, palette.color(beside)) < distinct) return palette.color(QPalette::WindowText);
+    }
+    return highlight;
+}
+
 QColor linkColour(const QWidget& on) {
     const QPalette& palette = on.palette();
     const QColor behind = palette.color(QPalette::Window);
@@ -60,7 +69,7 @@ QColor linkColour(const QWidget& on) {
 }
 
 QPalette legibleSelection(const QPalette& desktop) {
-    QPalette palette;
+    QPalette palette = desktop;
     if (contrast(desktop.color(QPalette::Highlight), desktop.color(QPalette::HighlightedText)) >= legible)
         return palette;
     palette.setColor(QPalette::Highlight, blue);
@@ -87,7 +96,7 @@ QString productName() { return QStringLiteral("Palace Lantern"); }
 
 QIcon productIcon() {
     QIcon icon;
-    for (const int size : {16, 48}) {
+    for (const int size : {16, 48, 128, 256}) {
         icon.addFile(QStringLiteral(":/icons/palace-lantern-%1.png").arg(size), QSize{size, size});
     }
     return icon;

@@ -7,13 +7,16 @@
 #include <QString>
 #include <QWidget>
 
+#include "interpret/text_run.h"
+
 namespace look {
 
-// The colours come from the analysis; the papers are the light grounds on which they are read, whatever the
-// desktop's theme.
-inline constexpr QColor blue{13, 36, 166};
-inline constexpr QColor brown{101, 14, 14};
-inline constexpr QColor red{128, 0, 0};
+constexpr QColor colourOf(const Rgb& rgb) { return {rgb.red, rgb.green, rgb.blue}; }
+
+// The colours of text, and the light papers on which it is read, whatever the desktop's theme.
+inline constexpr QColor blue = colourOf(analysisBlue);
+inline constexpr QColor brown = colourOf(analysisBrown);
+inline constexpr QColor red = colourOf(analysisRed);
 inline constexpr QColor green{0, 96, 40};
 inline constexpr QColor ink{32, 28, 26};
 inline constexpr QColor quiet{96, 84, 78};
@@ -22,7 +25,8 @@ inline constexpr QColor paper{255, 252, 245};
 inline constexpr QColor titlePaper{250, 243, 230};
 inline constexpr QColor ground{240, 231, 214};
 
-inline constexpr double twipsPerPixel = 15.0;  // 1440 twips and 96 pixels an inch
+// A length in twips as pixels at scale 1: an inch has 1440 twips and 96 pixels.
+constexpr double pixels(double twips) { return twips / 15; }
 
 // The font in the typeface for all text: Verdana, or the face that comes closest to it.
 QFont textFont(const QFont& like);
@@ -34,19 +38,23 @@ QFont chartFont(int pixelSize, bool bold);
 // (WCAG) reckon it.
 double contrast(const QColor& one, const QColor& other);
 
-// To be laid over the desktop's palette: colours for what is selected that can be read, nothing where the
-// desktop's own can. Some desktops put white on a light blue.
+// The desktop's palette, with other colours for the selection where the desktop's own are hard to read, as white
+// on a light blue.
 QPalette legibleSelection(const QPalette& desktop);
 
-// The palette for the title of an active window within a window, which is white on the colour of what is
-// selected: with a colour on which white can be read, and a dark shadow.
+// The palette for the title of an active QMdiSubWindow, which is white on the highlight colour: with one on which
+// white can be read, and a dark shadow.
 QPalette legibleTitle(const QPalette& desktop);
+
+// The colour of the focus frame: the highlight colour, or where it does not stand out from what lies beside
+// it, the text's.
+QColor focusColour(const QPalette& palette);
 
 // Marks text that opens a page: the blue of the headings, or where that can't be read on the ground, the
 // desktop's own link colour.
 QColor linkColour(const QWidget& on);
 
-// The face of a window's title within the window: large and bold.
+// Large and bold, for the product's name inside a window.
 QFont titleFont();
 
 // The product's name and its mark.

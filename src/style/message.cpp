@@ -12,7 +12,10 @@ bool types(const QKeyEvent& event) {
            !(event.modifiers() & (Qt::ControlModifier | Qt::AltModifier));
 }
 
-// A message whose button passes over what is typed.
+QString defaultTitle() { return look::productName() + QStringLiteral(" Message"); }
+
+// A message whose button ignores what is typed. mayAct() can't see to that: the button is the dialog's own,
+// and the blank of a person who types on would press it.
 class Message : public QMessageBox {
   public:
     using QMessageBox::QMessageBox;
@@ -27,10 +30,10 @@ class Message : public QMessageBox {
 }  // namespace
 
 void showMessage(QWidget* parent, QMessageBox::Icon icon, const QString& text, const QString& title) {
-    Message box{icon, title.isEmpty() ? look::productName() : title, QString{}, QMessageBox::Ok, parent};
+    Message box{icon, title.isEmpty() ? defaultTitle() : title, QString{}, QMessageBox::Ok, parent};
     box.setTextFormat(Qt::PlainText);
     box.setText(text);
-    box.setAccessibleDescription(text);  // which is what a screen reader announces of a message
+    box.setAccessibleDescription(text);  // a screen reader announces it
     box.setWindowModality(Qt::ApplicationModal);
     box.setEscapeButton(QMessageBox::Ok);
     box.button(QMessageBox::Ok)->installEventFilter(&box);
@@ -38,7 +41,7 @@ void showMessage(QWidget* parent, QMessageBox::Icon icon, const QString& text, c
 }
 
 bool askWhether(QWidget* parent, const QString& question) {
-    QMessageBox box{QMessageBox::Question, look::productName(), QString{}, QMessageBox::Yes | QMessageBox::No,
+    QMessageBox box{QMessageBox::Question, defaultTitle(), QString{}, QMessageBox::Yes | QMessageBox::No,
                     parent};
     box.setTextFormat(Qt::PlainText);
     box.setText(question);

@@ -21,8 +21,9 @@ TEST(Tradition, HasTheLunarMonthsOfTheUsualCalendarButForTheDepartures) {
     std::string found, before;
     for (int i = 0; i < yearCount * monthCount * dayCount; ++i) {
         const PickedDate date{i % dayCount, i / dayCount % monthCount, i / dayCount / monthCount};
-        const int month = date.monthPosition + 1, realDay = std::min(date.day(), date.monthLength());
-        const milliseconds noon = sys_days{year{date.year()} / month / realDay}.time_since_epoch() + 4h;
+        const auto month = year{date.year()} / date.month();
+        const auto realDay = std::min(sys_days{month / 1} + days{date.dayPosition}, sys_days{month / last});
+        const milliseconds noon = realDay.time_since_epoch() + 4h;
         chinese->setTime(static_cast<double>(noon.count()), error);
         const int usual = chinese->get(UCAL_MONTH, error) + 1;  // in a leap month that of the month before
         LunarMonth = 0;
@@ -30,7 +31,7 @@ TEST(Tradition, HasTheLunarMonthsOfTheUsualCalendarButForTheDepartures) {
         std::string now = ": " + std::to_string(LunarMonth) + " for " + std::to_string(usual) + " to ";
         if (LunarMonth == usual) now = ", ";
         if (i > 0 && now != before)
-            found += std::to_string(date.day()) + '.' + std::to_string(month) + '.' +
+            found += std::to_string(date.day()) + '.' + std::to_string(date.month()) + '.' +
                      std::to_string(date.year()) + now;
         before = now;
     }

@@ -1,7 +1,5 @@
 // The analysis window, opened from the chart as a person opens it, and what it puts on paper.
 
-#include "display/frmPalaceAnalysis.h"
-
 #include <QPrintDialog>
 #include <QPrinter>
 
@@ -29,6 +27,17 @@ void expectRuns(const QTextEdit& text, std::vector<TextRun> runs, double enlarge
     EXPECT_EQ(text.toPlainText(), whole);
 }
 
+// Sends an event to a window at a time of the display's clock, in milliseconds.
+template <class Event>
+void sendAt(quint64 time, QWidget& window, Event event) {
+    event.setTimestamp(time);
+    QApplication::sendEvent(window.windowHandle(), &event);
+}
+
+void pressEnterAt(quint64 time, QWidget& window) {
+    sendAt(time, window, QKeyEvent{QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, "\r"});
+}
+
 class Analysis : public Program {
   protected:
     Analysis() { showChart(); }
@@ -50,12 +59,15 @@ class Analysis : public Program {
             EXPECT_EQ(dialog.printRange() == QPrintDialog::Selection, isSelected);
             auto* printers = dialog.findChild<QComboBox*>("printers");
             printers->setCurrentIndex(printers->findText("Print to File (PDF)"));
+            dialog.printer()->setPageMargins({6, 6, 6, 6}, QPageLayout::Millimeter);  // the printer's own
             for (auto* button : dialog.findChildren<QPushButton*>())
                 if (button->text().startsWith("&Options")) button->click();
             static const QRegularExpression pageNumbers{"[pP]age|from|^to$|printRange|reverse"};
             for (const auto* control : dialog.findChildren<QWidget*>(pageNumbers))
                 EXPECT_FALSE(control->isVisible()) << control->objectName().toStdString();
-            dialog.findChild<QLineEdit*>("filename")->setText(QString::fromStdString(pdf_));
+            dialog.findChild<QLineEdit*>("filename")->setText(pdf_);
+            dialog.printer()->setPageLayout(
+                QPrinter{QPrinter::HighResolution}.pageLayout());  // as printers do
             dialog.accept();
         };
         EXPECT_EQ(withModals([] { click("cmdPrint"); }, accept), 1);
@@ -64,24 +76,31 @@ class Analysis : public Program {
     // What is on the paper or, with "-bbox", where it is, without the date of printing.
     QString paper(const QString& option = "-raw") const {
         QProcess reader;
-        reader.start("pdftotext", {option, QString::fromStdString(pdf_), "-"});
+        reader.start("pdftotext", {option, pdf_, "-"});
         EXPECT_TRUE(reader.waitForFinished());
         return QString::fromUtf8(reader.readAllStandardOutput()).section("<doc>", -1);
     }
 
+    // The pages' texts; the last one ends what comes before it.
+    QStringList pages() const { return paper().split("\f").mid(0, paper().count("\f")); }
+
     const ChartModel chart_ = cast(handCharts[0].entry);
-    const std::string pdf_ = folder_ + "/paper.pdf";
+    const QString pdf_ = (folder_ + "/paper.pdf").c_str();
 };
 
 TEST_F(Analysis, OfAPalaceIsOpenedOnceByAKeyThatIsHeldDownAndReadUntilTheNextPress) {
     const auto hold = [](QWidget& window) {
         QKeyEvent repeat{QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, "\r", true};
-        for (int count = 0; count < 3; ++count) QApplication::sendEvent(window.windowHandle(), &repeat);
+        QApplication::sendEvent(window.windowHandle(), &repeat);
+        for (const quint64 time : {5000U, 5030U}) {  // as the X server reports it
+            sendAt(time, window, QKeyEvent{QEvent::KeyRelease, Qt::Key_Return, Qt::NoModifier, "\r"});
+            pressEnterAt(time + 1, window);
+        }
         EXPECT_TRUE(window.isVisible());
     };
     const auto pressAndHold = [&] {
         find("lblCover(7)")->setFocus();
-        QTest::keyClick(find("frmMdi")->windowHandle(), Qt::Key_Return);
+        pressEnterAt(1000, *find("frmMdi"));
         hold(*find("frmMdi"));
     };
     const auto holdAndRead = [&](QWidget& analysis) {
@@ -90,40 +109,76 @@ TEST_F(Analysis, OfAPalaceIsOpenedOnceByAKeyThatIsHeldDownAndReadUntilTheNextPre
         expectRuns(*text, composePalaceAnalysis(chart_, 7));
         EXPECT_TRUE(text->isReadOnly());
         for (const Qt::Key key : {Qt::Key_S, Qt::Key_P}) QTest::keyClick(text, key, Qt::ControlModifier);
-        QTest::keyClick(&analysis, Qt::Key_Return);
+        pressEnterAt(5200, analysis);  // late, but soon delivered
+        EXPECT_FALSE(analysis.isVisible());
+        analysis.close();
     };
     EXPECT_EQ(withModals(pressAndHold, holdAndRead), 1);
 }
 
+TEST_F(Analysis, OfAPalaceIsNotClosedByTheSecondHalfOfADoubleClick) {
+    const auto clickAt = [](quint64 time, QWidget& control, const QPoint& place = {9, 9}) {
+        const QPoint inWindow = control.mapTo(control.window(), place);
+        for (const auto& [type, held] : {std::pair{QEvent::MouseButtonPress, Qt::LeftButton},
+                                         {QEvent::MouseButtonRelease, Qt::NoButton}})
+            sendAt(time, *control.window(),
+                   QMouseEvent{type, inWindow, QPointF{600, 400}, Qt::LeftButton, held, Qt::NoModifier});
+    };
+    const auto clickOkTwice = [&](QWidget& analysis) {
+        clickAt(1100, *find("cmdOk"));
+        EXPECT_TRUE(analysis.isVisible());
+        clickAt(3000, *find("cmdOk"));
+    };
+    EXPECT_EQ(withModals([&] { clickAt(1000, *find("lblCover(7)")); }, clickOkTwice), 1);
+    const auto chooseQuickly = [&] {
+        auto* menus = find("frmDisplay")->findChild<QMenuBar*>();
+        clickAt(5000, *menus, menus->actionGeometry(menus->actions().first()).center());
+        clickAt(5100, *find<QMenu>("mnuFile"));  // goes on with its title; its first entry is Show All
+    };
+    EXPECT_EQ(withModals(chooseQuickly, [](QWidget& analysis) { analysis.close(); }), 1);
+}
+
 TEST_F(Analysis, OfAllPalacesIsSavedAndAsksBeforeItOverwrites) {
     const std::string bytes = chartFileBytes(chart_.input), own = folder_ + "/chart.txt";
-    const QString question = "Palace Lantern|question|%1 already exists.\nDo you want to replace it?";
+    const QString question = "Palace Lantern Message|question|%1 already exists.\nDo you want to replace it?";
     const auto saveAll = [&](QTextEdit& text) {
-        const auto save = [&](const std::string& path, QMessageBox::StandardButton answer = QMessageBox::No) {
+        const auto save = [&](const std::vector<std::string>& typed, bool yes = false) {
             text.activateWindow();
             EXPECT_TRUE(QTest::qWaitFor([&] { return text.isActiveWindow(); }));
             const auto press = [&] { QTest::keyClick(&text, Qt::Key_S, Qt::ControlModifier); };
-            return messagesOf(press, path, answer);
+            return messagesOf(press, typed, yes);
         };
-        EXPECT_EQ(save(folder_ + "/chart"), QStringList{});
+        const auto expectRefusal = [&](const std::string& path, const QString& why) {
+            EXPECT_EQ(save({path}), (QStringList{"Palace Lantern Message|critical|" + why, "stays"}));
+        };
+        EXPECT_EQ(save({folder_ + "/chart"}), QStringList{});
         EXPECT_EQ(read(own), bytes);
         write(own, "old");
-        EXPECT_EQ(save(folder_ + "/chart"), (QStringList{question.arg("chart.txt"), "stays"}));
+        EXPECT_EQ(save({folder_ + "/chart"}), (QStringList{question.arg("chart.txt"), "stays"}));
         EXPECT_EQ(read(own), "old");
-        EXPECT_EQ(save(folder_ + "/chart", QMessageBox::Yes), QStringList{question.arg("chart.txt")});
+        EXPECT_EQ(save({folder_ + "/chart"}, true), QStringList{question.arg("chart.txt")});
         EXPECT_EQ(read(own), bytes);
-        for (const char* name : {"/say \"hi\" now.plf", "/<h1>BIG.plf"})
-            EXPECT_EQ(save(folder_ + name), QStringList{});
-        EXPECT_EQ(save(folder_ + "/<h1>BIG.plf"), (QStringList{question.arg("<h1>BIG.plf"), "stays"}));
-        EXPECT_EQ(names(), (Names{"chart.txt", "say \"hi\" now.plf", "<h1>BIG.plf"}));
-        for (const auto& [path, why] : {std::pair{std::string{"/none/chart"}, "The folder does not exist."},
-                                        {folder_ + "/" + std::string(256, 'n'), "The name is too long."}})
-            EXPECT_EQ(save(path), (QStringList{QString("Palace Lantern|critical|") + why, "stays"}));
+        std::filesystem::create_directories(folder_ + "/sub/name.txt");
+        const std::vector<std::string> other[]{
+            {folder_ + "/say \"hi\" now.plf"}, {folder_ + "/<h1>BIG.plf"}, {folder_ + "/sub", "in sub"}};
+        for (const auto& typed : other) EXPECT_EQ(save(typed), QStringList{});
+        EXPECT_EQ(save({folder_ + "/<h1>BIG.plf"}), (QStringList{question.arg("<h1>BIG.plf"), "stays"}));
+        EXPECT_EQ(names(), (Names{"chart.txt", "say \"hi\" now.plf", "sub", "<h1>BIG.plf"}));
+        EXPECT_EQ(read(folder_ + "/sub/in sub.txt"), bytes);
+        expectRefusal("/none/chart", "The folder does not exist.");
+        expectRefusal(folder_ + "/sub/name", "This is the name of a folder.");
+        expectRefusal(folder_ + "/" + std::string(256, 'n'), "The name is too long.");
+        std::filesystem::permissions(own, std::filesystem::perms::owner_read);
+        inClosedFolder([&] {
+            expectRefusal(own, "This file is read-only.");
+            expectRefusal(folder_ + "/new", "Nothing can be saved in this folder.");
+        });
     };
     open(saveAll);
 }
 
 TEST_F(Analysis, IsReadInAnySizeAndPrintedInItsOwnAsFarAsItIsSelected) {
+    const QString words = "life after 50 years of age.";
     QString before;
     const auto changeSize = [&](QTextEdit& text) {
         const auto press = [&](Qt::Key key) { QTest::keyClick(&text, key, Qt::ControlModifier); };
@@ -132,38 +187,50 @@ TEST_F(Analysis, IsReadInAnySizeAndPrintedInItsOwnAsFarAsItIsSelected) {
             for (int time = 0; time < times; ++time) QApplication::sendEvent(text.viewport(), &event);
         };
         const auto size = [&] { return text.document()->find("Palace").charFormat().fontPointSize(); };
+        const auto top = [&] { return text.cursorForPosition({0, 2}).blockNumber(); };
         print();
         before = paper("-bbox");
         const double own = size();
-        press(Qt::Key_Minus);
-        EXPECT_DOUBLE_EQ(size(), own * 0.9);
-        turn(3, -120, Qt::ControlModifier);
+        EXPECT_EQ(text.textCursor().position() + top(), 0) << "read from its top";
+        text.setTextCursor(text.document()->find(words));
+        const int place = text.textCursor().position();
+        text.verticalScrollBar()->setValue(text.verticalScrollBar()->maximum() * 2 / 3);
+        const int topBefore = top();
+        press(Qt::Key_Equal);
+        EXPECT_DOUBLE_EQ(size(), own * 1.1);
+        EXPECT_EQ(top(), topBefore);
+        EXPECT_EQ(text.textCursor().selectedText(), words);
+        EXPECT_EQ(text.textCursor().position(), place);
+        turn(3, -40, Qt::ControlModifier);  // as a touchpad does
+        EXPECT_DOUBLE_EQ(size(), own);
+        turn(4, -120, Qt::ControlModifier);
         EXPECT_DOUBLE_EQ(size(), own * 0.8) << "the least";
         turn(8, 120, Qt::ControlModifier);
         turn(1, 120, Qt::NoModifier);
         EXPECT_DOUBLE_EQ(size(), own * 2.5);
         press(Qt::Key_0);
-        EXPECT_DOUBLE_EQ(size(), own);
+        press(Qt::Key_Minus);
+        EXPECT_DOUBLE_EQ(size(), own * 0.9);
         for (int step = 0; step < 12; ++step) press(Qt::Key_Plus);
+        text.window()->resize(510, 440);
     };
     open(changeSize);
     const auto printAgain = [&](QTextEdit& text) {
+        EXPECT_EQ(text.window()->size(), QSize(510, 440)) << "as a person left it";
         expectRuns(text, composeAllPalaces(chart_), 3);
         print();
         EXPECT_TRUE(paper("-bbox") == before) << "also the paper is larger";
-        text.setTextCursor(text.document()->find("life after 50 years of age."));
+        text.setTextCursor(text.document()->find(words));
         print();
-        EXPECT_EQ(paper().simplified(), "life after 50 years of age.");
+        EXPECT_EQ(paper().simplified(), words);
     };
     open(printAgain);
 }
 
 TEST_F(Analysis, IsPrintedWithinMarginsAndNothingThatBelongsTogetherIsParted) {
     open([this](QTextEdit&) { print(); });
-    QStringList pages = paper().split(QChar::FormFeed);
-    EXPECT_EQ(pages.takeLast(), "");
-    EXPECT_GE(pages.size(), 3);
-    for (const QString& page : pages.mid(1)) {
+    EXPECT_GE(pages().size(), 3);
+    for (const QString& page : pages().mid(1)) {
         const QString first = page.section("\n", 0, 0);
         EXPECT_TRUE(first.contains("Palace :- ") || first.contains("Star :- ")) << page.toStdString();
     }
@@ -174,12 +241,10 @@ TEST_F(Analysis, IsPrintedWithinMarginsAndNothingThatBelongsTogetherIsParted) {
     QString text;
     for (int i = 0; i < 400; ++i) text += "Palace\nDetails :-\n" + QString(i % 3, QChar::LineFeed);
     QPrinter printer;
-    printer.setOutputFileName(QString::fromStdString(pdf_));
+    printer.setOutputFileName(pdf_);
     printOnPaper(QTextDocument{text + QString(200, QChar::LineFeed)}, printer);
-    pages = paper().split(QChar::FormFeed);
-    EXPECT_EQ(pages.takeLast(), "");
-    EXPECT_GE(pages.size(), 10);
-    for (const QString& page : pages) EXPECT_TRUE(page.startsWith("Palace"));
+    EXPECT_GE(pages().size(), 10);
+    for (const QString& page : pages()) EXPECT_TRUE(page.startsWith("Palace"));
 }
 
 }  // namespace

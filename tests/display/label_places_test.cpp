@@ -23,13 +23,11 @@ class Labels : public testing::Test {
 // Every text that each label ever shows.
 std::map<std::string_view, std::set<QString>> allTexts() {
     std::map<std::string_view, std::set<QString>> texts;
-    for (const FlagField& flag : flagFields) texts[flag.name] = {latin(flag.text)};
     for (int day = 0; day < 1000; ++day) {
         const ChartModel chart = cast({u"A", {day % 28, day % 12, day % yearCount}, 1 + day % 23, 0});
         for (const ChartCell& cell : chart.cells) {
-            for (const auto& [name, field] : captionFields) {
-                if (!(cell.*field).empty()) texts[name].insert(latinLines((cell.*field).text()));
-            }
+            for (const CellField& field : cellFields)
+                texts[field.name].insert(latinLines(shownIn(cell, field)));
         }
     }
     return texts;

@@ -54,12 +54,12 @@ TEST(Texts, KeepEachLetterOfIntroductionAndDescriptions) {
 TEST(Texts, StandWithTheirPalacesAndStarsAndAreDistinct) {
     std::string headings;
     std::set<std::string_view> texts{introText, bodyPalaceText};
-    for (const auto& [key, heading, text] : palaceTexts) {
+    for (const auto& [heading, text] : palaceTexts) {
         headings.append(heading) += text.substr(18, text.find(" Gong.") - 17);  // "Also known as the ..."
         texts.insert(text);
     }
-    for (const auto& [star, heading, text] : starTexts) {
-        const std::string_view name = heading.substr(0, heading.find(" Star :- "));
+    for (const auto& [star, text] : starTexts) {
+        const std::string_view name = fieldOf(star).text.text();
         EXPECT_EQ(text.find(name) == text.npos, name == "Tian Tong");  // which says Tiang Tong
         texts.insert(text);
     }
@@ -68,17 +68,17 @@ TEST(Texts, StandWithTheirPalacesAndStarsAndAreDistinct) {
               "Children Palace :- Zi Nu Wealth Palace :- Cai Ang Health Palace :- Ji E "
               "Travel Palace :- Qian Yi Friends Palace :- Pu Yi Carrer Palace :- Shi Ye "
               "Property Palace :- Tian Zhai Fortune Palace :- Fu De Parents Palace :- Fu Mu ");
-    std::array<std::string, palaceTextCount> inPalaces;
+    std::array<std::string, palaceNames.size()> inPalaces;
     for (const auto& star : starInPalaceTexts) {
         texts.insert(star.begin(), star.end());
-        for (std::size_t palace = 0; palace < palaceTextCount; ++palace) inPalaces[palace] += star[palace];
+        for (std::size_t palace = 0; palace < palaceNames.size(); ++palace) inPalaces[palace] += star[palace];
     }
     EXPECT_EQ(texts.size(), 180U);  // of 183
     constexpr std::pair<const char*, std::size_t> onlyIn[]{
         {"sister", 1},     {"spouse", 2},   {"hildren", 3}, {"friend", 7},     {"parents", 11},
         {"Tiang Tong", 4}, {"Tian Fun", 3}, {"l or 2", 3},  {"o the cards", 4}};
     for (const auto& [word, own] : onlyIn)
-        for (std::size_t palace = 0; palace < palaceTextCount; ++palace)
+        for (std::size_t palace = 0; palace < palaceNames.size(); ++palace)
             EXPECT_EQ(inPalaces[palace].find(word) != std::string::npos, palace == own) << word;
 }
 
@@ -113,7 +113,7 @@ TEST(Composer, WritesPalaceBodyAndStarsInTheirOrder) {
         if (cell.value() == 7) add(runs, "Body Palace :- ", heading, "");
         if (cell.value() == 7) add(runs, bodyPalaceText, brown);
         for (const std::size_t star : std::span{subjects[cell.index()]}.subspan(1)) {
-            add(runs, starTexts[star].heading, heading, "");
+            add(runs, fieldOf(starTexts[star].star).text.text(), heading, " Star :- ");
             add(runs, starTexts[star].general, black);
             add(runs, starInPalaceTexts[star][palace], brown);
         }

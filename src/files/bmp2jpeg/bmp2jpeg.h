@@ -3,7 +3,7 @@
 
 #pragma once
 
-// Converts the BMP file `bmpPath` to the JPEG file `jpegPath`; both are in the file system's encoding.
-// `quality` is held within 1 to 100. Returns 1 on success and 0 on failure; the JPEG then appears whole
-// or, on failure, whatever was at `jpegPath` before stays as it was.
+// Converts the BMP file `bmpPath` to the JPEG file `jpegPath`, which it replaces; both paths are in the file
+// system's encoding. A `quality` outside 1 to 100 counts as the nearer of the two. Returns 1 on success and 0
+// on failure, which leaves a file at `jpegPath` as it was.
 extern "C" int BmpToJpeg(const char* bmpPath, const char* jpegPath, int quality) noexcept;

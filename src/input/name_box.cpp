@@ -1,0 +1,135 @@
+#include "input/name_box.h"
+
+#include <QContextMenuEvent>
+#include <QDropEvent>
+#include <QGuiApplication>
+#include <QInputMethodEvent>
+#include <QKeyEvent>
+#include <QMenu>
+#include <QMimeData>
+#include <QSignalBlocker>
+#include <algorithm>
+#include <utility>
+
+#include "input/name_filter.h"
+
+namespace {
+
+// Ctrl, Alt and Meta make a key a command, but for Ctrl and Alt together, which is AltGr on Windows.
+bool isCommand(Qt::KeyboardModifiers modifiers) {
+    const auto held = modifiers & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
+    return held != Qt::NoModifier && held != (Qt::ControlModifier | Qt::AltModifier);
+}
+
+// Not Enter, Backspace and the like, which have a text, too.
+bool isWritten(const QString& text) {
+    return !text.isEmpty() && text.front().category() != QChar::Other_Control;
+}
+
+}  // namespace
+
+NameBox::NameBox() {
+    connect(this, &QLineEdit::textEdited, this, [this] { edited_ = true; });
+    connect(this, &QLineEdit::textChanged, this, &NameBox::filterSetText);
+}
+
+void NameBox::setName(const QString& name) {
+    const QSignalBlocker blocker{this};
+    setText(name);
+    lastText_ = name;
+}
+
+// Line ends at the end come with a copied line and go in silence.
+QString NameBox::filtered(QStringView text) {
+    while (text.endsWith(QLatin1Char('\n')) || text.endsWith(QLatin1Char('\r'))) text.chop(1);
+    const FilteredName name = filterName(text.toString().toStdU16String());
+    if (name.rejectedAny) emit rejected();
+    return QString::fromStdU16String(name.accepted);
+}
+
+// Enters what passes the filter in place of the selection. Where nothing does, nothing changes.
+void NameBox::enter(const QString& text) {
+    const QString name = filtered(text);
+    if (!name.isEmpty()) insert(name);
+}
+
+void NameBox::paste(QClipboard::Mode mode) { enter(QGuiApplication::clipboard()->text(mode)); }
+
+// Of all that changes the text, only setText() of somebody else is not an edit: assistive technology both
+// sets and inserts text that way.
+void NameBox::filterSetText(const QString& text) {
+    const QString before = std::exchange(lastText_, text);
+    if (std::exchange(edited_, false)) return;
+    const auto head =
+        std::mismatch(before.begin(), before.end(), text.begin(), text.end()).second - text.begin();
+    const qsizetype rest = std::min(before.size(), text.size()) - head;
+    const auto tail =
+        std::mismatch(text.rbegin(), text.rbegin() + rest, before.rbegin()).first - text.rbegin();
+    const QString name = text.first(head) + filtered(text.sliced(head).chopped(tail)) + text.last(tail);
+    if (name != text) setName(name);
+}
+
+// A command goes on without its text, which the base class would write for some of them.
+void NameBox::keyPressEvent(QKeyEvent* event) {
+    const bool command = isCommand(event->modifiers());
+    if (event->matches(QKeySequence::Paste)) {
+        paste(QClipboard::Clipboard);
+    } else if (!command && isWritten(event->text())) {
+        enter(event->text());
+    } else {
+        QKeyEvent bare{event->type(), event->key(), event->modifiers()};
+        QLineEdit::keyPressEvent(&bare);
+        event->setAccepted(bare.isAccepted());
+    }
+}
+
+// A composition takes the place of the selection when it begins. If nothing comes of it, the selection comes
+// back.
+void NameBox::inputMethodEvent(QInputMethodEvent* event) {
+    const bool composes = !event->preeditString().isEmpty();
+    const QString name = filtered(event->commitString());
+    const bool refused = name.isEmpty() && !event->commitString().isEmpty();
+    replacesSelection_ = name.isEmpty() && (replacesSelection_ || (composes && hasSelectedText()));
+    QInputMethodEvent entered{event->preeditString(), event->attributes()};
+    if (!refused) entered.setCommitString(name, event->replacementStart(), event->replacementLength());
+    QLineEdit::inputMethodEvent(&entered);
+    event->accept();
+    if (!composes && std::exchange(replacesSelection_, false)) undo();
+}
+
+// The middle button pastes what is selected elsewhere.
+void NameBox::mouseReleaseEvent(QMouseEvent* event) {
+    const bool pastes =
+        event->button() == Qt::MiddleButton && QGuiApplication::clipboard()->supportsSelection();
+    if (!pastes) return QLineEdit::mouseReleaseEvent(event);
+    deselect();
+    paste(QClipboard::Selection);
+}
+
+void NameBox::contextMenuEvent(QContextMenuEvent* event) {
+    QMenu* menu = createStandardContextMenu();
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    for (QAction* entry : menu->actions()) {
+        if (entry->menu() != nullptr) entry->setVisible(false);  // control characters, which no name has
+        if (!entry->text().startsWith(QLineEdit::tr("&Paste"))) continue;
+        disconnect(entry, &QAction::triggered, nullptr, nullptr);
+        connect(entry, &QAction::triggered, this, [this] { paste(QClipboard::Clipboard); });
+    }
+    menu->popup(event->globalPos());
+}
+
+// Files are for the form, though they come with a text, too.
+void NameBox::dragEnterEvent(QDragEnterEvent* event) {
+    event->mimeData()->hasUrls() ? event->ignore() : QLineEdit::dragEnterEvent(event);
+}
+
+// Text from elsewhere is copied even where a move is proposed: moving would lose what the filter keeps out.
+void NameBox::dropEvent(QDropEvent* event) {
+    if (event->source() == this) return QLineEdit::dropEvent(event);
+    event->setDropAction(Qt::CopyAction);
+    event->accept();
+    QMimeData name;
+    name.setText(filtered(event->mimeData()->text()));
+    QDropEvent copy{event->position(), Qt::CopyAction, &name, event->buttons(), event->modifiers()};
+    if (!name.text().isEmpty()) QLineEdit::dropEvent(&copy);
+}
