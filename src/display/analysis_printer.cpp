@@ -2,6 +2,7 @@
 
 #include <QAbstractTextDocumentLayout>
 #include <QDir>
+#include <QFileDialog>
 #include <QLineEdit>
 #include <QPageLayout>
 #include <QPainter>
@@ -107,6 +108,17 @@ void proposeFile(QPrintDialog& dialog, const QString& name) {
         box->setText(QDir{box->text()}.filePath(name + QStringLiteral(".pdf")));
 }
 
+// Whether the person wants to print. The dialog of Windows, which has no layout, opens only where there is a
+// printer; without one, the pages go to a file there.
+bool isWanted(QPrintDialog& dialog, QPrinter& printer) {
+    if (dialog.layout() != nullptr || printer.outputFormat() == QPrinter::NativeFormat)
+        return dialog.exec() == QDialog::Accepted;
+    const QString name = printer.docName() + QStringLiteral(".pdf");
+    printer.setOutputFileName(QFileDialog::getSaveFileName(dialog.parentWidget(), QStringLiteral("Print"),
+                                                           name, QStringLiteral("PDF (*.pdf)")));
+    return !printer.outputFileName().isEmpty();
+}
+
 }  // namespace
 
 void printOnPaper(const QTextDocument& text, QPrinter& printer) {
@@ -143,7 +155,7 @@ void printAnalysis(const std::vector<TextRun>& runs, int start, int end, QWidget
     if (auto* all = dialog.findChild<QRadioButton*>(QStringLiteral("printAll"))) all->setEnabled(!selected);
     hidePageNumbers(dialog);
     proposeFile(dialog, printer.docName());
-    if (dialog.exec() != QDialog::Accepted) return;
+    if (!isWanted(dialog, printer)) return;
     replaceDefaultMargins(printer);
     printOnPaper(*printedPart(runs, start, end), printer);
 }

@@ -7,6 +7,7 @@
 #include <memory>
 #include <type_traits>
 
+#include "bmp2jpeg_export.h"
 #include "files/saved_files.h"
 
 namespace {
@@ -20,7 +21,7 @@ using Bytes = std::unique_ptr<unsigned char, Destroy>;
 
 }  // namespace
 
-int BmpToJpeg(const char* bmpPath, const char* jpegPath, int quality) noexcept {
+BMP2JPEG_EXPORT int BmpToJpeg(const char* bmpPath, const char* jpegPath, int quality) noexcept {
     if (bmpPath == nullptr || jpegPath == nullptr) return 0;
     int width = 0, height = 0, format = TJPF_UNKNOWN;
     const Bytes pixels{tjLoadImage(bmpPath, &width, 1, &height, &format, 0)};

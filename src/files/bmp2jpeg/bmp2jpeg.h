@@ -6,5 +6,4 @@
 // Converts the BMP file `bmpPath` to the JPEG file `jpegPath`, which it replaces; both paths are in the file
 // system's encoding. A `quality` outside 1 to 100 counts as the nearer of the two. Returns 1 on success and 0
 // on failure, which leaves a file at `jpegPath` as it was.
-extern "C" __attribute__((visibility("default"))) int BmpToJpeg(const char* bmpPath, const char* jpegPath,
-                                                                int quality) noexcept;
+extern "C" int BmpToJpeg(const char* bmpPath, const char* jpegPath, int quality) noexcept;

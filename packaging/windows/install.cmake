@@ -1,0 +1,27 @@
+# The program's resources, and the installer: program, converter, help pages, and the libraries they need.
+set(CPACK_GENERATOR NSIS)
+set(CPACK_PACKAGE_NAME "Palace Lantern")
+set(CPACK_PACKAGE_VENDOR "The Palace Lantern founders")
+set(CPACK_PACKAGE_FILE_NAME palace-lantern-${PROJECT_VERSION}-setup)
+set(CPACK_NSIS_MUI_ICON ${PROJECT_BINARY_DIR}/palace-lantern.ico)
+set(CPACK_STRIP_FILES ON)
+set(CMAKE_MODULE_PATH ${CMAKE_CURRENT_LIST_DIR})  # for NSIS.template.in: CPack's own installs for all users
+include(CPack)
+
+file(GLOB icons ${PROJECT_SOURCE_DIR}/packaging/icons/*.png)
+execute_process(COMMAND icotool -c -o ${CPACK_NSIS_MUI_ICON} ${icons} COMMAND_ERROR_IS_FATAL ANY)
+string(REPLACE "." "," version ${PROJECT_VERSION})
+configure_file(${CMAKE_CURRENT_LIST_DIR}/palace-lantern.rc.in palace-lantern.rc @ONLY)
+enable_language(RC)
+target_sources(palace-lantern PRIVATE ${PROJECT_BINARY_DIR}/palace-lantern.rc)
+
+find_package(Qt6 REQUIRED COMPONENTS Widgets PrintSupport)
+install(TARGETS palace-lantern Bmp2Jpeg RUNTIME DESTINATION . LIBRARY DESTINATION .)
+foreach(library Core Gui Widgets PrintSupport)
+    install(FILES $<TARGET_FILE:Qt6::${library}> DESTINATION .)
+endforeach()
+file(GLOB compilers_own ${PROJECT_BINARY_DIR}/libraries/bin/lib*.dll)
+install(FILES ${compilers_own} DESTINATION .)
+install(FILES $<TARGET_FILE:Qt6::QWindowsIntegrationPlugin> DESTINATION platforms)
+install(FILES $<TARGET_FILE:Qt6::QWindowsVistaStylePlugin> DESTINATION styles)
+install(DIRECTORY ${PROJECT_SOURCE_DIR}/help ${PROJECT_BINARY_DIR}/libraries/licences DESTINATION .)

@@ -1,0 +1,90 @@
+#!/bin/bash
+# Installs Palace Lantern under Wine, plays a person with a keyboard, and takes it away again. Each window has its
+# picture taken. To be run by tools/windows.sh, on a display of its own.
+set -euo pipefail
+cd build/windows
+title="Palace Lantern" drive=$WINEPREFIX/drive_c path="C:/Ünïcode 星/Ünïcode 星" front=
+
+wait_for() {
+    for _ in {1..300}; do
+        "$@" >/dev/null 2>&1 && return
+        sleep 0.1
+    done
+    import -window root pictures/failed.png
+    echo "waited in vain for: $*"
+    exit 1
+}
+comes_forward() {
+    [ "$(xdotool getactivewindow)" != "$front" ] && [ "$(xdotool getactivewindow getwindowname)" = "$1" ]
+}
+stands_still() { [ "$(import -window root rgb:- | cksum)" = "$(sleep 0.3 && import -window root rgb:- | cksum)" ]; }
+is_gone() { ! "$@"; }
+
+# Waits until the next window, which has that title, is in front; takes the picture of that name, unless it is "-",
+# and then presses the keys. What begins with "=" is typed.
+at() {
+    local key
+    wait_for comes_forward "$1"
+    front=$(xdotool getactivewindow)
+    wait_for stands_still
+    [ "$2" = - ] || import -window root "pictures/$2.png"
+    for key in "${@:3}"; do
+        case $key in
+            =*) xdotool type --delay 40 "${key#=}" && sleep 0.6 ;; # until a list takes the next letter for a new word
+            *) xdotool key --delay 60 "$key" ;;
+        esac
+    done
+}
+
+rm -rf "$WINEPREFIX" pictures
+mkdir pictures
+wineboot -i
+mkdir "$drive/Ünïcode 星"
+wine "$(echo *-setup.exe)" &
+at "$title Setup " setup Return
+wait_for test -e "$drive"/users/*/AppData/Roaming/Microsoft/Windows/"Start Menu/Programs/$title.lnk"
+program=$(echo "$drive"/users/*/AppData/Local/Programs/"$title")
+front=
+at "$title Setup " setup-done Return
+at "$title" empty =mei1
+at "$title Message" refused-key Return
+at "$title" - "= ling" Tab =30 Tab =February Tab =1988 Tab =9 Tab =30 Return
+at "$title Message" refused-date Return
+at "$title" input =14 Return
+at "$title" chart Tab Tab Tab Return
+at "$title Analysis" palace Escape
+at "$title" - alt+s
+at "$title Analysis" show-all ctrl+s
+at "$title" save "=$path.plf" Return
+at "$title Analysis" - ctrl+p
+at Print print ctrl+a "=$path.pdf" Return
+at "$title Analysis" - Escape
+at "$title" - alt+j
+at "Save as JPG" save-picture "=${path%/*}/星.jpg" Return
+at "$title" - alt+b
+at "$title" back alt+e
+wait_for is_gone xdotool search --name "^$title"
+test -s "$drive${path#C:}.plf"
+identify "$drive/Ünïcode 星/星.jpg" | grep JPEG
+tail -c 6 "$drive${path#C:}.pdf" | grep %%EOF
+
+# The file opens by its type, in the one program that may run.
+wine start "$path.plf"
+at "$title" - F6
+wine start "$path.plf"
+at "$title Message" second Return
+at "$title" opened =9 Tab =30 Return
+at "$title" chart-again alt+h a
+compare -metric AE pictures/chart.png pictures/chart-again.png null:
+at "About $title" about Escape
+at "$title" - alt+e
+wait_for is_gone xdotool search --name "^$title"
+
+wine "$program/Uninstall.exe" &
+at "$title Uninstall " uninstall Return
+wait_for is_gone test -e "$program"
+front=
+at "$title Uninstall " uninstalled Return
+wineserver -w
+is_gone grep -iE 'palace|\.plf|QtProject' "$WINEPREFIX"/{user,system}.reg
+[ -z "$(find "$drive" -ipath '*palace*')" ]
