@@ -148,9 +148,12 @@ def print_to_pdf(program):
     dialog = program.window("Print")
     program.picture("Print", "print")
     target = program.home / "analysis.pdf"
-    dialog.find("text", "Output file:").click()
+    box = dialog.find("text", "Output file:")
+    box.click()
+    box.wait_focus()
     press("ctrl+a")
     type_text(str(target))
+    box.wait_text(str(target))
     dialog.find("push button", "Print").click()
     dialog.wait_closed()
     wait_until(lambda: target.exists() and target.read_bytes().rstrip().endswith(b"%%EOF"), "the whole PDF file")
