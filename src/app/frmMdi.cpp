@@ -106,7 +106,7 @@ void frmMdi::showInPlaceOf(const QWidget& form) {
 void frmMdi::changeEvent(QEvent* event) {
     QMainWindow::changeEvent(event);
     if (event->type() == QEvent::PaletteChange) followPalette();
-    // Queued, because the menu bar takes the new font later.
+    // Queued, because the menu bar gets the new font after the frame.
     if (event->type() == QEvent::FontChange && isVisible())
         QMetaObject::invokeMethod(this, &frmMdi::placeChart, Qt::QueuedConnection);
     if (event->type() != QEvent::WindowStateChange || isMaximized() || isMinimized() || !isActiveWindow())
