@@ -71,8 +71,8 @@ void frmMain::Form_Load() {
     fillNumbers(cmbDate, 1, dayCount);
     for (const std::string_view month : monthNames) cmbMonth->addItem(latin(month));
     fillNumbers(cmbYear, firstYear, yearCount);
-    fillNumbers(cmbHour, 0, 24);
-    fillNumbers(cmbMinute, 0, 60);
+    fillNumbers(cmbHour, 0, hourCount);
+    fillNumbers(cmbMinute, 0, minuteCount);
 }
 
 void frmMain::createControls() {
