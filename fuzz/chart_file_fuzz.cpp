@@ -8,7 +8,6 @@
 #include "calendar/lunar_month.h"
 #include "chart/generate.h"
 #include "files/chart_file.h"
-#include "input/birth_lists.h"
 #include "input/input_check.h"
 #include "input/name_filter.h"
 #include "interpret/composer.h"
@@ -27,18 +26,19 @@ std::u16string wide(const std::string& latin1) {
     return text;
 }
 
-// As in the form: a text that is no entry leaves the list as it was.
-void selectText(int& position, const std::vector<std::string>& entries, const std::string& text) {
-    const auto entry = std::find(entries.begin(), entries.end(), text);
-    if (entry != entries.end()) position = static_cast<int>(entry - entries.begin());
+// As in the form: a text that is not in the list leaves the position as it was.
+void selectNumber(int& position, int first, int count, const std::string& text) {
+    for (int i = 0; i < count; ++i) {
+        if (std::to_string(first + i) == text) position = i;
+    }
 }
 
 void open(const ChartFileValues& file, BirthEntry& entry) {
-    static const auto days = dateEntries(), months = monthEntries(), years = yearEntries();
     entry.name = wide(file.name);
-    selectText(entry.date.dayPosition, days, file.day);
-    selectText(entry.date.monthPosition, months, file.month);
-    selectText(entry.date.yearPosition, years, file.year);
+    selectNumber(entry.date.dayPosition, 1, dayCount, file.day);
+    const auto month = std::find(monthNames.begin(), monthNames.end(), file.month);
+    if (month != monthNames.end()) entry.date.monthPosition = static_cast<int>(month - monthNames.begin());
+    selectNumber(entry.date.yearPosition, firstYear, yearCount, file.year);
 }
 
 // Each palace and each of the thirteen stars that are explained has its heading once, and the palaces of Life

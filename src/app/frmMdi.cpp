@@ -58,17 +58,15 @@ void frmMdi::createStrip() {
     font.setPixelSize(17);
     lblBanner = new BannerLink{font, this, Picture2};
     lblBanner->adjustSize();
+    // The buttons' width is fixed in twips, so the font size does not follow the desktop's.
+    QFont small = Picture2->font();
+    small.setPixelSize(11);
+    Picture2->setFont(small);
     cmdSavePicture =
         newButton("cmdSavePicture", "Save as &JPG", this, &frmMdi::savePictureRequested, Picture2);
     cmdShowAll = newButton("cmdShowAll", "&Show All", this, &frmMdi::showAllRequested, Picture2);
     cmdBack = newButton("cmdBack", "&Back", this, &frmMdi::backRequested, Picture2);
     cmdMdiExit = newButton("cmdMdiExit", "&Exit", this, &frmMdi::cmdMdiExit_Click, Picture2);
-    // The width is fixed in twips, so the font size does not follow the desktop's.
-    for (QPushButton* button : {cmdSavePicture, cmdShowAll, cmdBack, cmdMdiExit}) {
-        QFont small = button->font();
-        small.setPixelSize(11);
-        button->setFont(small);
-    }
 }
 
 void frmMdi::hostChart() {
@@ -108,7 +106,7 @@ void frmMdi::showInPlaceOf(const QWidget& form) {
 void frmMdi::changeEvent(QEvent* event) {
     QMainWindow::changeEvent(event);
     if (event->type() == QEvent::PaletteChange) followPalette();
-    // Queued, because the menu bar takes the new font later.
+    // Queued, because the menu bar gets the new font after the frame.
     if (event->type() == QEvent::FontChange && isVisible())
         QMetaObject::invokeMethod(this, &frmMdi::placeChart, Qt::QueuedConnection);
     if (event->type() != QEvent::WindowStateChange || isMaximized() || isMinimized() || !isActiveWindow())

@@ -10,7 +10,7 @@
 
 namespace {
 
-// The program's typeface in the size that the desktop has now.
+// The program's typeface in the size of the desktop's font, which can change.
 void useDesktopFont() {
     const QFont font = look::textFont(QFontDatabase::systemFont(QFontDatabase::GeneralFont));
     if (font != QApplication::font()) QApplication::setFont(font);

@@ -16,6 +16,6 @@ class Toolkit : public QApplication {
     PressFilter presses_;
 };
 
-// Sets the program's name, font, icon and style, dialogs that are Qt's own on every desktop, and the chart's
-// accessibility. The Toolkit must exist.
+// Sets name, font, icon, style, the chart's accessibility, and the use of Qt's own dialogs. To be called
+// once, after the Toolkit is constructed.
 void prepareToolkit();

@@ -5,6 +5,9 @@
 
 #include "calendar/picked_date.h"
 
+inline constexpr int hourCount = 24;
+inline constexpr int minuteCount = 60;
+
 struct BirthEntry {
     std::u16string name;
     PickedDate date;

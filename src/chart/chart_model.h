@@ -37,7 +37,6 @@ inline constexpr std::size_t starCount = static_cast<std::size_t>(Star::TianGuan
 
 // A palace cell, one field for each of its labels. A caption holds the label's text; a flag says whether the
 // label is shown, which always has the same text.
-// clang-format off
 struct ChartCell {
     Caption lblPalace, lblPalaceSteam, lblEarthlyBranches, lblBody;
     Caption lblMajorStars, lblTianFu;
@@ -52,7 +51,6 @@ struct ChartCell {
     // Whether the star is shown in this cell. It may be left from a previous chart.
     bool holds(Star star) const;
 };
-// clang-format on
 
 // A field of a cell, which is either a caption or a flag, with its label's name and a star's text.
 struct CellField {

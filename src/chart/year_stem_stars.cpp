@@ -20,12 +20,10 @@ constexpr std::array<std::array<int, stemStars.size()>, 10> stemCells{{
     { 3, 11,  5,  1,  1},  // 8 Wu
     { 4, 10,  6,  7,  0},  // 9 Ji
 }};
-// clang-format on
 
 constexpr std::array transformations{Star::HuaLu, Star::HuaQuan, Star::Huake, Star::HuaJi};
 
 // The stars that the transformations mark, one row a last digit of the year.
-// clang-format off
 constexpr std::array<std::array<Star, transformations.size()>, 10> transformedStars{{
     // Hua Lu         Hua Quan         Hua ke           Hua Ji
     {Star::TaiYang,   Star::WuQu,      Star::TianTong,  Star::TaiYin},  // 0 Geng

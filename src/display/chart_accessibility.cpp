@@ -34,7 +34,7 @@ class SquareInterface : public QAccessibleWidget {
 };
 
 QAccessibleInterface* createInterface(const QString&, QObject* object) {
-    // The toolkit's own interface of a scroll area asks for bars that have just gone, and crashes on it.
+    // Qt's own interface of a scroll area uses scroll bars that are already hidden, and crashes.
     if (auto* area = qobject_cast<QScrollArea*>(object))
         return new QAccessibleWidget{area, QAccessible::Client};
     auto* square = qobject_cast<ChartSquare*>(object);

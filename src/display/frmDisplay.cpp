@@ -1,6 +1,7 @@
 #include "display/frmDisplay.h"
 
 #include <QEvent>
+#include <QPainter>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QVBoxLayout>
@@ -8,7 +9,6 @@
 
 #include "display/chart_accessibility.h"
 #include "display/chart_square.h"
-#include "display/elided_label.h"
 #include "display/lbl_cover.h"
 #include "help/help_menu.h"
 #include "style/controls.h"
@@ -46,6 +46,26 @@ QSize textSize(const QFont& font, std::string_view text) {
     const int height = lines.size() == 1 ? single : static_cast<int>(lines.size()) * qCeil(metrics.height());
     return {qCeil(width) + 1, height};
 }
+
+// One line of text that a person has entered. It is elided, and control characters are drawn as blanks;
+// text() returns the whole.
+class ElidedLabel : public QLabel {
+  public:
+    using QLabel::QLabel;
+
+  protected:
+    void paintEvent(QPaintEvent*) override {
+        // A very long text takes long to measure; no character is narrower than a pixel.
+        QString line = text().left(width());
+        for (QChar& character : line) {
+            if (!character.isPrint()) character = QLatin1Char(' ');
+        }
+        QPainter painter{this};
+        const QString shown = fontMetrics().elidedText(line, Qt::ElideRight, contentsRect().width());
+        painter.setPen(palette().color(foregroundRole()));
+        painter.drawText(contentsRect(), static_cast<int>(alignment()) | Qt::TextSingleLine, shown);
+    }
+};
 
 }  // namespace
 
@@ -173,7 +193,7 @@ void frmDisplay::fillHeader(const ChartModel& chart, const BirthEntry& entry) {
 }
 
 QSize frmDisplay::fitInto(const QSize& room) {
-    // As high as the layout makes it, which in some styles is more than its size hint says.
+    // The layout uses heightForWidth(), which in some styles is more than the size hint.
     const QSize menuRoom{0, menus_->heightForWidth(room.width())};
     const QSize chartRoom = room - menuRoom;
     applyScale(ChartScale::largestFor(chartRoom, devicePixelRatioF()));

@@ -64,7 +64,7 @@ class frmDisplay : public QWidget {
 
     QMenuBar* menus_;
     QScrollArea* scroll_;
-    QWidget* gfg;         // the parent of all that follows
+    QWidget* gfg;         // the background of all
     ChartSquare* Frame1;  // the square
     QWidget* Frame2;      // the centre block
     QLabel* lblCaption;

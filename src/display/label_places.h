@@ -98,7 +98,6 @@ inline constexpr std::array<CellLabel, 35> cellLabels{{
     {"lblHuaLu",            1875, 1920,   0, LabelKind::transformation},
     {"lblBody",             2880, 1920,   0, LabelKind::body,           "* Body"},
 }};
-// clang-format on
 
 // A label of the centre block: a fixed prompt or, where the prompt is empty, a value.
 struct CentreLabel {
@@ -113,7 +112,6 @@ struct CentreLabel {
 };
 
 // The centre block reads as a title page: the person, then the values of the chart.
-// clang-format off
 inline constexpr std::array<CentreLabel, 13> centreLabels{{
     {"lblName",                 "",                          300,  420, 6600, 450, LabelKind::name,    true},
     {"lblDateOfBirth",          "",                          300,  960, 6600, 330, LabelKind::heading, true},

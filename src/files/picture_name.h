@@ -33,5 +33,5 @@ PictureName uniquePictureName(std::string_view folder, std::string_view name,
                               const PictureSurroundings& around);
 
 // The path of the temporary bitmap: the picture's, with ".bmp" for every ".jpg" of its name, in any case of
-// letters. If there is none, it is the picture's own path.
+// letters. A name without ".jpg" gives the path of the picture itself.
 std::string bitmapPathFor(const std::string& picturePath);

@@ -13,7 +13,6 @@
 #include "files/chart_file.h"
 #include "help/banner_link.h"
 #include "help/help_menu.h"
-#include "input/birth_lists.h"
 #include "input/drop_down_list.h"
 #include "input/input_check.h"
 #include "input/name_box.h"
@@ -24,10 +23,10 @@
 
 namespace {
 
-void fill(QComboBox* list, const std::vector<std::string>& entries) {
-    QStringList texts;
-    for (const std::string& entry : entries) texts += latin(entry);
-    list->addItems(texts);
+void fillNumbers(QComboBox* list, int first, int count) {
+    QStringList numbers;
+    for (int number = first; number < first + count; ++number) numbers += QString::number(number);
+    list->addItems(numbers);
 }
 
 void selectText(QComboBox* list, const std::string& entry) {
@@ -69,11 +68,11 @@ frmMain::frmMain() {
 }
 
 void frmMain::Form_Load() {
-    fill(cmbDate, dateEntries());
-    fill(cmbMonth, monthEntries());
-    fill(cmbYear, yearEntries());
-    fill(cmbHour, hourEntries());
-    fill(cmbMinute, minuteEntries());
+    fillNumbers(cmbDate, 1, dayCount);
+    for (const std::string_view month : monthNames) cmbMonth->addItem(latin(month));
+    fillNumbers(cmbYear, firstYear, yearCount);
+    fillNumbers(cmbHour, 0, hourCount);
+    fillNumbers(cmbMinute, 0, minuteCount);
 }
 
 void frmMain::createControls() {
