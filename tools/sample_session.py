@@ -146,6 +146,7 @@ def print_to_pdf(program):
     analysis = program.window(ANALYSIS)
     analysis.find("push button", "Print").click()
     dialog = program.window("Print")
+    pick_by_mouse(program, "Name:", "Print to File (PDF)")  # where there are printers, one of them comes first
     program.picture("Print", "print")
     target = program.home / "analysis.pdf"
     box = dialog.find("text", "Output file:")
