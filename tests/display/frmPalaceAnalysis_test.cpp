@@ -114,6 +114,13 @@ TEST_F(Analysis, OfAPalaceIsOpenedOnceByAKeyThatIsHeldDownAndReadUntilTheNextPre
         analysis.close();
     };
     EXPECT_EQ(withModals(pressAndHold, holdAndRead), 1);
+    const auto pressWithoutTime = [](QWidget& analysis) {  // as it comes while assistive technology listens
+        sendAt(0, analysis, QKeyEvent{QEvent::KeyRelease, Qt::Key_Return, Qt::NoModifier, "\r"});
+        pressEnterAt(0, analysis);
+        EXPECT_FALSE(analysis.isVisible());
+        analysis.close();
+    };
+    EXPECT_EQ(withModals(pressAndHold, pressWithoutTime), 1);
 }
 
 TEST_F(Analysis, OfAPalaceIsNotClosedByTheSecondHalfOfADoubleClick) {
