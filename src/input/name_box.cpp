@@ -65,8 +65,9 @@ void NameBox::filterSetText(const QString& text) {
     const qsizetype rest = std::min(before.size(), text.size()) - head;
     const auto tail =
         std::mismatch(text.rbegin(), text.rbegin() + rest, before.rbegin()).first - text.rbegin();
-    const QString name = text.first(head) + filtered(text.sliced(head).chopped(tail)) + text.last(tail);
-    if (name != text) setName(name);
+    const QString entered = filtered(text.sliced(head).chopped(tail));
+    const bool refused = entered.isEmpty() && text.size() > head + tail;
+    setName(refused ? before : text.first(head) + entered + text.last(tail));
 }
 
 // A command goes on without its text, which the base class would write for some of them.

@@ -134,6 +134,7 @@ TEST_F(InputForm, FiltersWhatComesInOnEveryWayAndLeavesWhatIsThere) {
         {"AB|", dropText, "x-y", "XY|AB", true},
         {"O'NEIL|", insertByBus, "m1", "MO'NEIL|", true},
         {"O'NEIL|", setByBus, "x-y", "XY|", true},
+        {"O'NEIL|", setByBus, "12", "O'NEIL|", true},
     };
     for (const auto& [before, way, text, after, told] : rows) {
         setState(before);
