@@ -121,7 +121,8 @@ class Program : public TemporaryFolder {
     // Casts the first of the charts worked out by hand, or another one.
     static void showChart(const std::string& date = "5.3.1985", int hour = 13, int minute = 1) {
         enter("JOHN SMITH", date, hour, minute);
-        choose("frmMain", "mnuGenerateChart");
+        const auto choosing = [] { choose("frmMain", "mnuGenerateChart"); };
+        EXPECT_EQ(withModals(choosing, [](QWidget& window) { window.close(); }), 0);
         QWidget* frame = find("frmMdi");
         EXPECT_TRUE(QTest::qWaitForWindowActive(frame));
         EXPECT_TRUE(QTest::qWaitFor([] { return find("cmdShowAll")->hasFocus(); }));

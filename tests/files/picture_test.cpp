@@ -76,17 +76,17 @@ TEST_F(Picture, ShowsTheChartAsOnTheScreenWithoutFocusAndPointer) {
     EXPECT_EQ(save("chart"), QStringList{});
     EXPECT_GE(likeness(folder_ + "/chart.jpg", plain), 45);
     EXPECT_EQ(shownWithPointerAt(find("frmMdi")), focused);
-    find("frmMdi")->showNormal();
-    for (const QSize& size : {QSize{500, 700}, {900, 400}}) {
-        find("frmMdi")->resize(size);
-        const QSize whole = client->widget()->size();
-        const auto scrollsOneWay = [&] {
-            return (whole.height() > client->height()) != (whole.width() > client->width());
-        };
-        EXPECT_TRUE(QTest::qWaitFor(scrollsOneWay));
-        EXPECT_EQ(save(size.width() == 500 ? "across" : "down"), QStringList{});
-        EXPECT_EQ(QImage((folder_ + (size.width() == 500 ? "/across.jpg" : "/down.jpg")).c_str()).size(),
-                  whole);
+    QWidget* frame = find("frmMdi");
+    frame->showNormal();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return frame->width() < frame->screen()->size().width() * 9 / 10; }));
+    const QWidget* whole = client->widget();
+    for (const auto& [size, name] : {std::pair{QSize{500, 700}, "across"}, {QSize{900, 400}, "down"}}) {
+        frame->resize(size);
+        const bool across = size.width() == 500;
+        EXPECT_TRUE(QTest::qWaitFor([&] { return (whole->width() > client->width()) == across; })) << name;
+        EXPECT_TRUE(QTest::qWaitFor([&] { return (whole->height() > client->height()) != across; })) << name;
+        EXPECT_EQ(save(name), QStringList{});
+        EXPECT_EQ(QImage((folder_ + "/" + name + ".jpg").c_str()).size(), whole->size()) << name;
     }
 }
 
