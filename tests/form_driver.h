@@ -78,7 +78,9 @@ inline QStringList messagesOf(const std::function<void()>& action, const std::ve
             seen += title + icons[box->icon()] + "|" + box->text();
             if (box->icon() == QMessageBox::Question && yes) return box->button(QMessageBox::Yes)->click();
             if (box->icon() == QMessageBox::Question) return QTest::keyClick(&window, Qt::Key_Return);
-        } else if (auto* name = window.findChild<QLineEdit*>("fileNameEdit"); next != typed.end()) {
+        } else if (auto* name = window.findChild<QLineEdit*>("fileNameEdit"); name == nullptr) {
+            ADD_FAILURE() << window.windowTitle().toStdString();
+        } else if (next != typed.end()) {
             EXPECT_TRUE(QTest::qWaitFor([name] { return name->hasFocus(); }));
             name->setText(QString::fromStdString(*next++));
             return QTest::keyClick(name, Qt::Key_Return);
