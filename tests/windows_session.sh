@@ -3,7 +3,7 @@
 # picture taken. To be run by tools/windows.sh, on a display of its own.
 set -euo pipefail
 cd build/windows
-title="Palace Lantern" drive=$WINEPREFIX/drive_c path="C:/Ünïcode 星/Ünïcode 星" front=
+title="Palace Lantern" chart="Palace Lantern - MEI LING" drive=$WINEPREFIX/drive_c path="C:/Ünïcode 星/Ünïcode 星" front=
 
 wait_for() {
     for _ in {1..300}; do
@@ -51,17 +51,17 @@ at "$title Message" refused-key Return
 at "$title" - "= ling" Tab =30 Tab =February Tab =1988 Tab =9 Tab =30 Return
 at "$title Message" refused-date Return
 at "$title" input =14 Return
-at "$title" chart Tab Tab Tab Return
+at "$chart" chart Tab Tab Tab Return
 at "$title Analysis" palace Escape
-at "$title" - alt+s
+at "$chart" - alt+s
 at "$title Analysis" show-all ctrl+s
 at "$title" save "=$path.plf" Return
 at "$title Analysis" - ctrl+p
 at Print print ctrl+a "=$path.pdf" Return
 at "$title Analysis" - Escape
-at "$title" - alt+j
+at "$chart" - alt+j
 at "Save as JPG" save-picture "=${path%/*}/星.jpg" Return
-at "$title" - alt+b
+at "$chart" - alt+b
 at "$title" back alt+e
 wait_for is_gone xdotool search --name "^$title"
 test -s "$drive${path#C:}.plf"
@@ -74,10 +74,10 @@ at "$title" - F6
 wine start "$path.plf"
 at "$title Message" second Return
 at "$title" opened =9 Tab =30 Return
-at "$title" chart-again alt+h a
+at "$chart" chart-again alt+h a
 compare -metric AE pictures/chart.png pictures/chart-again.png null:
 at "About $title" about Escape
-at "$title" - alt+e
+at "$chart" - alt+e
 wait_for is_gone xdotool search --name "^$title"
 
 wine "$program/Uninstall.exe" &

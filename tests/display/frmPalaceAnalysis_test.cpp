@@ -140,6 +140,8 @@ TEST_F(Analysis, OfAPalaceIsNotClosedByTheSecondHalfOfADoubleClick) {
         EXPECT_EQ(withModals([&] { clickAt(1000, *find("lblCover(7)")); }, clickAgain), 1);
     }
     const auto chooseQuickly = [&] {
+        // Since Qt 6.8, a menu takes a click only away from where the pointer was as it opened.
+        QTest::mouseMove(find("frmMdi")->windowHandle(), {9, 9});
         auto* menus = find("frmDisplay")->findChild<QMenuBar*>();
         clickAt(5000, *menus, menus->actionGeometry(menus->actions().first()).center());
         clickAt(5100, *find<QMenu>("mnuFile"));  // goes on with its title; its first entry is Show All
