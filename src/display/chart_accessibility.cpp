@@ -34,7 +34,7 @@ class SquareInterface : public QAccessibleWidget {
 };
 
 QAccessibleInterface* createInterface(const QString&, QObject* object) {
-    // Qt's own interface of a scroll area uses scroll bars that are already hidden, and crashes.
+    // Qt 6.8 still: its interface of a scroll area uses scroll bars that are already hidden, and crashes.
     if (auto* area = qobject_cast<QScrollArea*>(object))
         return new QAccessibleWidget{area, QAccessible::Client};
     auto* square = qobject_cast<ChartSquare*>(object);
