@@ -94,6 +94,8 @@ TEST_F(ChartWindow, IsAsLargeAsFitsAndScrollsOnlyWhereItCouldNotBeRead) {
         EXPECT_EQ(whole, room.width() > 600 || display_->devicePixelRatioF() > 1) << room.width();
         EXPECT_TRUE(display_->width() > room.width() * 8 / 10 || display_->height() > room.height() * 8 / 10);
     }
+    show(handCharts[0].entry, {940, 400});
+    EXPECT_EQ(display_->findChild<QScrollArea*>()->horizontalScrollBar()->maximum(), 0) << "down only";
     show(handCharts[0].entry, {500, 300});
     cover(6)->setFocus(Qt::TabFocusReason);
     EXPECT_EQ(cover(6)->visibleRegion().boundingRect(), cover(6)->rect()) << "the focus is in sight";

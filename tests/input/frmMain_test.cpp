@@ -204,7 +204,7 @@ TEST_F(InputForm, ShowsWhereTheFocusIsOnLightAndDarkDesktops) {
     const QPalette desktop = QApplication::palette();
     for (const QColor& ground : {QColor{239, 239, 239}, QColor{53, 53, 53}}) {
         QPalette palette{ground};
-        palette.setColor(QPalette::Highlight, QColor{21, 83, 158});
+        palette.setColor(QPalette::Highlight, ground.darker(120));  // which does not stand out
         QApplication::setPalette(palette);
         for (const char* name : {"txtName", "cmbYear", "cmdOpen", "lblBanner"})
             EXPECT_GE(focusContrast(*find(name)), 3) << name << " on " << ground.red();
@@ -236,6 +236,7 @@ TEST_F(InputForm, OpensChartFilesAndIsLeftAsItIsByOthers) {
     write(folder_ + "/chartplf", bytes.substr(0, bytes.size() - 6));  // without the year
     write(folder_ + "/noname.plf", bytes.substr(bytes.find('\r')));
     std::filesystem::create_symlink("/proc/self/mem", folder_ + "/x.plf");
+    std::filesystem::create_symlink("/dev/zero", folder_ + "/device.plf");
     const QStringList bad{"critical|Please Check The File."}, noName{"information|Please Enter Your Name !"},
         missing{"critical|There is no such file.", "stays"};
     const std::tuple<std::vector<std::string>, QStringList, QString> files[]{
@@ -245,6 +246,7 @@ TEST_F(InputForm, OpensChartFilesAndIsLeftAsItIsByOthers) {
         {{folder_, "chartplf"}, {}, "O'NEIL <b> 5 March 2001 13 30"},
         {{folder_ + "/chart.txt"}, bad, old},
         {{folder_ + "/x.plf"}, bad, old},
+        {{folder_ + "/device.plf"}, bad, old},
         {{folder_ + "/missing"}, missing, old},
         {{folder_ + "/noname.plf"}, noName, " 5 March 1985 13 30"},
     };
