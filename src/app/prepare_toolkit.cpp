@@ -34,6 +34,6 @@ void prepareToolkit() {
     QPixmapCache::setCacheLimit(0);
     QApplication::setStyle(new DesktopStyle);
     useDesktopFont();
-    QApplication::setWindowIcon(look::productIcon());
+    QApplication::setWindowIcon(look::productIcon({16, 48}));  // each window is sent all sizes
     installChartAccessibility();
 }

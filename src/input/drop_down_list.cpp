@@ -3,6 +3,7 @@
 #include <QKeyEvent>
 #include <QListView>
 #include <QWheelEvent>
+#include <utility>
 
 namespace {
 
@@ -19,7 +20,6 @@ class EntryView : public QListView {
 }  // namespace
 
 DropDownList::DropDownList() {
-    setView(new EntryView);
     setFocusPolicy(Qt::StrongFocus);
     setMaxVisibleItems(16);
 }
@@ -27,8 +27,10 @@ DropDownList::DropDownList() {
 // Qt 6.8 still: where the desktop lets Enter press buttons, QComboBox opens its list on Enter, which would
 // not reach the default button.
 void DropDownList::keyPressEvent(QKeyEvent* event) {
-    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    enter ? event->ignore() : QComboBox::keyPressEvent(event);
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) return event->ignore();
+    // Not in the constructor: five views would slow the start down.
+    if (!std::exchange(hasOwnView_, true)) setView(new EntryView);
+    QComboBox::keyPressEvent(event);
 }
 
 void DropDownList::wheelEvent(QWheelEvent* event) {

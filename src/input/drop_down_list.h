@@ -11,4 +11,7 @@ class DropDownList : public QComboBox {
   protected:
     void keyPressEvent(QKeyEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
+
+  private:
+    bool hasOwnView_ = false;
 };

@@ -93,9 +93,9 @@ QFont titleFont() {
 
 QString productName() { return QStringLiteral("Palace Lantern"); }
 
-QIcon productIcon() {
+QIcon productIcon(std::initializer_list<int> sizes) {
     QIcon icon;
-    for (const int size : {16, 48, 128, 256}) {
+    for (const int size : sizes) {
         icon.addFile(QStringLiteral(":/icons/palace-lantern-%1.png").arg(size), QSize{size, size});
     }
     return icon;

@@ -6,6 +6,7 @@
 #include <QPalette>
 #include <QString>
 #include <QWidget>
+#include <initializer_list>
 
 #include "interpret/text_run.h"
 
@@ -55,6 +56,6 @@ QColor linkColour(const QWidget& on);
 QFont titleFont();
 
 QString productName();
-QIcon productIcon();
+QIcon productIcon(std::initializer_list<int> sizes);
 
 }  // namespace look

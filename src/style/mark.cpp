@@ -3,6 +3,8 @@
 #include <QIcon>
 #include <QPainter>
 
+#include "style/look.h"
+
 Mark::Mark(int size) {
     setFixedSize(size, size);
     setAccessibleName(QStringLiteral("Lantern"));
@@ -10,5 +12,5 @@ Mark::Mark(int size) {
 
 void Mark::paintEvent(QPaintEvent*) {
     QPainter painter{this};
-    windowIcon().paint(&painter, rect());
+    look::productIcon({48, 128, 256}).paint(&painter, rect());
 }
