@@ -80,7 +80,7 @@ TEST_F(Picture, ShowsTheChartAsOnTheScreenWithoutFocusAndPointer) {
     frame->showNormal();
     EXPECT_TRUE(QTest::qWaitFor([&] { return frame->width() < frame->screen()->size().width() * 9 / 10; }));
     const QWidget* whole = client->widget();
-    for (const auto& [size, name] : {std::pair{QSize{500, 700}, "across"}, {QSize{900, 400}, "down"}}) {
+    for (const auto& [size, name] : {std::pair{QSize{500, 700}, "across"}, {QSize{1000, 400}, "down"}}) {
         frame->resize(size);
         const bool across = size.width() == 500;
         EXPECT_TRUE(QTest::qWaitFor([&] { return (whole->width() > client->width()) == across; })) << name;
