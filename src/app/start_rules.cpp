@@ -10,12 +10,12 @@
 namespace {
 
 // In folders of this user alone, so that nobody else can hold the lock. QStandardPaths only returns a runtime
-// folder that the user owns.
+// folder that the user owns; on Windows, which has none, it returns the home folder.
 QStringList lockPaths() {
     QStringList paths;
     for (const auto place : {QStandardPaths::RuntimeLocation, QStandardPaths::AppLocalDataLocation}) {
         const QString folder = QStandardPaths::writableLocation(place);
-        if (!folder.isEmpty() && QDir{}.mkpath(folder))
+        if (!folder.isEmpty() && folder != QDir::homePath() && QDir{}.mkpath(folder))
             paths += QDir{folder}.filePath(QStringLiteral("palace-lantern.lock"));
     }
     return paths;

@@ -4,6 +4,7 @@
 #include <QFileInfo>
 #include <QLineEdit>
 #include <QScreen>
+#include <QTemporaryFile>
 
 #include "files/picture_name.h"
 #include "style/controls.h"
@@ -73,7 +74,12 @@ QString obstacleToNewFile(const QFileInfo& file) {
     if (file.isDir()) return QStringLiteral("This is the name of a folder.");
     const auto length = static_cast<std::size_t>(file.fileName().toUtf8().size());
     if (length > longestFileName) return QStringLiteral("The name is too long.");
-    return folder.isWritable() ? QString{} : QStringLiteral("Nothing can be saved in this folder.");
+    if (hasForbiddenCharacter(file.fileName()))
+        return QStringLiteral("A file name can't contain any of these characters:  < > : \" | ? *");
+    // Tried out: what QFileInfo tells of permissions is not enough on Windows.
+    return QTemporaryFile{folder.filePath() + QStringLiteral("/XXXXXX")}.open()
+               ? QString{}
+               : QStringLiteral("Nothing can be saved in this folder.");
 }
 
 const Request chartToOpen{

@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 #include <QDateTime>
+#include <QDir>
 #include <QFileInfo>
 #include <QLibrary>
 #include <QScopeGuard>
@@ -27,8 +28,9 @@ bool isTaken(const std::string& path) {
 
 PictureName nameFor(const QString& chosenPath) {
     const QFileInfo chosen{chosenPath};
+    // With native separators, so that the "//" before a network share on Windows stays.
     return uniquePictureName(
-        encoded(chosen.path()), encoded(chosen.fileName()),
+        encoded(QDir::toNativeSeparators(chosen.path())), encoded(chosen.fileName()),
         {encoded(QCoreApplication::applicationDirPath()), isTaken,
          QDateTime::currentDateTime().toString(QStringLiteral("yyyyMMddhhmmsszzz")).toStdString()});
 }

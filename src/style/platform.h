@@ -1,10 +1,18 @@
 // What differs between window systems.
 #pragma once
 
+#include <QDir>
 #include <QGuiApplication>
+#include <QRegularExpression>
 
 // Whether the program knows the positions of its windows and of the pointer on the screen, and may activate a
 // window. Under Wayland only the compositor does.
 inline bool placesAreKnown() {
     return !QGuiApplication::platformName().startsWith(QStringLiteral("wayland"));
+}
+
+// Whether Windows, where the program runs on it, refuses a character of the file name.
+inline bool hasForbiddenCharacter(const QString& fileName) {
+    static const QRegularExpression forbidden{QStringLiteral("[<>:\"|?*]")};
+    return QDir::separator() == QLatin1Char('\\') && fileName.contains(forbidden);
 }
