@@ -38,15 +38,17 @@ bool PressFilter::discards(QObject* receiver, QEvent* event) {
 }
 
 // Qt 6.8 still: isAutoRepeat() is often false under X11, which sends auto-repeat as a release and a press at
-// the same time.
-bool PressFilter::isRepeated(const QKeyEvent& key) const {
+// the same time; and true on Windows for a key whose release went to a window that was being closed. Only the
+// key that was pressed last repeats.
+bool PressFilter::isRepeated(const QKeyEvent& key) {
     constexpr quint64 atOnce = 2;  // milliseconds
     const int code = key.key();
     const bool enter = code == Qt::Key_Return || code == Qt::Key_Enter;
     const bool space = code == Qt::Key_Space && !entersText(QApplication::focusWidget());
     const bool follows = code == releasedKey_ && key.timestamp() - released_ <= atOnce;
     const bool repeated = key.isAutoRepeat() || (key.timestamp() != 0 && follows);
-    return (enter || space) && repeated;
+    const bool pressedLast = std::exchange(pressedKey_, code) == code;
+    return (enter || space) && repeated && pressedLast;
 }
 
 // Where window positions are not known, they still are for a popup relative to its parent. Between other

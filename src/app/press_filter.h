@@ -18,9 +18,10 @@ class PressFilter {
     bool discards(QObject* receiver, QEvent* event);
 
   private:
-    bool isRepeated(const QKeyEvent& key) const;
+    bool isRepeated(const QKeyEvent& key);
     bool isSecondClick(const QMouseEvent& click, QWindow* window);
 
+    int pressedKey_ = 0;
     int releasedKey_ = 0;
     quint64 released_ = 0;  // timestamp in milliseconds
     QPointer<QWindow> clickedWindow_;
