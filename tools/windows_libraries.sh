@@ -29,10 +29,9 @@ fetch_sources
 cross_build jpeg libjpeg-turbo-*/ -DENABLE_SHARED=OFF -DWITH_SIMD=OFF
 cross_build gtest /usr/src/googletest
 off="opengl dynamicgl vulkan sql network dbus xml concurrent freetype gif ico tabletevent
-    accessibility_atspi_bridge graphicsview graphicseffect undocommand wizard calendarwidget splashscreen
+    accessibility_atspi_bridge graphicsview graphicseffect undocommand wizard splashscreen
     dockwidget columnview datawidgetmapper fontdialog colordialog systemtrayicon"
-cross_build qt qt6-base-*/ -DQT_HOST_PATH=/usr -DINPUT_opengl=no $(printf ' -DFEATURE_%s=OFF' $off) \
-    -DQT_HOST_PATH_CMAKE_DIR="/usr/lib/$(dpkg-architecture -qDEB_HOST_MULTIARCH)/cmake"
+cross_build qt qt6-base-*/ -DINPUT_opengl=no $(printf ' -DFEATURE_%s=OFF' $off)
 for library in libstdc++-6 libgcc_s_seh-1 libssp-0 libwinpthread-1; do # the compiler's own
     x86_64-w64-mingw32-strip -o "$libraries/bin/$library.dll" \
         "$(x86_64-w64-mingw32-g++-posix -print-file-name=$library.dll)"

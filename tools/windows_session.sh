@@ -3,7 +3,9 @@
 # picture taken. To be run by tools/windows.sh, on a display of its own.
 set -euo pipefail
 cd build/windows
-title="Palace Lantern" chart="Palace Lantern - MEI LING" drive=$WINEPREFIX/drive_c path="C:/Ünïcode 星/Ünïcode 星" front=
+title="Palace Lantern" chart="Palace Lantern - MEI LING" path="C:/Ünïcode 星/Ünïcode 星" front=
+drive=$WINEPREFIX/drive_c data=$drive/users/$(id -un)/AppData
+program=$data/Local/Programs/$title
 
 wait_for() {
     for _ in {1..300}; do
@@ -21,7 +23,7 @@ stands_still() { [ "$(import -window root rgb:- | cksum)" = "$(sleep 0.3 && impo
 is_gone() { ! "$@"; }
 
 # Waits until the next window, which has that title, is in front; takes the picture of that name, unless it is "-",
-# and then presses the keys. What begins with "=" is typed.
+# and then presses the keys. What begins with "=" is typed, with "+" pasted: Wine types no letters of all scripts.
 at() {
     local key
     wait_for comes_forward "$1"
@@ -31,6 +33,7 @@ at() {
     for key in "${@:3}"; do
         case $key in
             =*) xdotool type --delay 40 "${key#=}" && sleep 0.6 ;; # until a list takes the next letter for a new word
+            +*) echo -n "${key#+}" | xclip -selection clipboard && xdotool key ctrl+v && sleep 1 ;;
             *) xdotool key --delay 60 "$key" ;;
         esac
     done
@@ -42,8 +45,7 @@ wineboot -i
 mkdir "$drive/Ünïcode 星"
 wine "$(echo *-setup.exe)" &
 at "$title Setup " setup Return
-wait_for test -e "$drive"/users/*/AppData/Roaming/Microsoft/Windows/"Start Menu/Programs/$title.lnk"
-program=$(echo "$drive"/users/*/AppData/Local/Programs/"$title")
+wait_for test -e "$data/Roaming/Microsoft/Windows/Start Menu/Programs/$title.lnk"
 front=
 at "$title Setup " setup-done Return
 at "$title" empty =mei1
@@ -55,12 +57,12 @@ at "$chart" chart Tab Tab Tab Return
 at "$title Analysis" palace Escape
 at "$chart" - alt+s
 at "$title Analysis" show-all ctrl+s
-at "$title" save "=$path.plf" Return
+at "$title" save "+$path.plf" Return
 at "$title Analysis" - ctrl+p
-at Print print ctrl+a "=$path.pdf" Return
+at Print print ctrl+a "+$path.pdf" Return
 at "$title Analysis" - Escape
 at "$chart" - alt+j
-at "Save as JPG" save-picture "=${path%/*}/星.jpg" Return
+at "Save as JPG" save-picture "+${path%/*}/星.jpg" Return
 at "$chart" - alt+b
 at "$title" back alt+e
 wait_for is_gone xdotool search --name "^$title"
@@ -69,9 +71,9 @@ identify "$drive/Ünïcode 星/星.jpg" | grep JPEG
 tail -c 6 "$drive${path#C:}.pdf" | grep %%EOF
 
 # The file opens by its type, in the one program that may run.
-wine start "$path.plf"
+wine start /unix "$drive${path#C:}.plf"
 at "$title" - F6
-wine start "$path.plf"
+wine start /unix "$drive${path#C:}.plf"
 at "$title Message" second Return
 at "$title" opened =9 Tab =30 Return
 at "$chart" chart-again alt+h a

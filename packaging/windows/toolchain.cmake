@@ -1,9 +1,14 @@
-# Debian's cross-compiler for 64-bit Windows; the libraries are those that tools/windows.sh has built with it.
+# Debian's cross-compiler for 64-bit Windows; the libraries are those that tools/windows_libraries.sh has built with
+# it, and Qt's tools are those that run here.
 set(CMAKE_SYSTEM_NAME Windows)
 set(CMAKE_SYSTEM_PROCESSOR x86_64)
 set(CMAKE_C_COMPILER x86_64-w64-mingw32-gcc-posix)
 set(CMAKE_CXX_COMPILER x86_64-w64-mingw32-g++-posix)
-set(CMAKE_FIND_ROOT_PATH /usr/x86_64-w64-mingw32 ${CMAKE_CURRENT_LIST_DIR}/../../build/windows/libraries)
+cmake_path(SET libraries NORMALIZE ${CMAKE_CURRENT_LIST_DIR}/../../build/windows/libraries)
+set(CMAKE_FIND_ROOT_PATH /usr/x86_64-w64-mingw32 ${libraries})
 foreach(kind LIBRARY INCLUDE PACKAGE)
     set(CMAKE_FIND_ROOT_PATH_MODE_${kind} ONLY)
 endforeach()
+set(QT_HOST_PATH /usr)
+file(GLOB host_tools /usr/lib/*/cmake/Qt6CoreTools)
+cmake_path(GET host_tools PARENT_PATH QT_HOST_PATH_CMAKE_DIR)
