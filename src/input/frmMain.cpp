@@ -201,10 +201,10 @@ void frmMain::askForTime() {
 }
 
 bool frmMain::passesCheck(const BirthEntry& birth) {
-    const auto failure = checkBirthEntry(birth);
-    if (!failure) return true;
-    showMessage(this, QMessageBox::Information, latin(failure->message));
-    (failure->field == InputField::txtName ? static_cast<QWidget*>(txtName) : cmbDate)->setFocus();
+    const auto message = checkBirthEntry(birth);
+    if (!message) return true;
+    showMessage(this, QMessageBox::Information, latin(*message));
+    birth.name.empty() ? txtName->setFocus() : cmbDate->setFocus();
     return false;
 }
 

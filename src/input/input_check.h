@@ -6,13 +6,5 @@
 
 #include "chart/birth_entry.h"
 
-enum class InputField { txtName, cmbDate };
-
-// The message to show, and the field that then gets the focus.
-struct InputFailure {
-    std::string_view message;
-    InputField field;
-};
-
-// Returns the first failure: the name is empty (blanks are enough), or the date does not exist.
-std::optional<InputFailure> checkBirthEntry(const BirthEntry& entry);
+// Returns the message of the first failure: an empty name (blanks will do), or a date that does not exist.
+std::optional<std::string_view> checkBirthEntry(const BirthEntry& entry);

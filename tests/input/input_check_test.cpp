@@ -10,9 +10,7 @@
 namespace {
 
 std::string_view failureOf(const char16_t* name, const std::string& date) {
-    const auto failure = checkBirthEntry({name, dateOf(date), 0, 0});
-    EXPECT_EQ(failure && failure->field == InputField::txtName, *name == u'\0');
-    return failure ? failure->message : "";
+    return checkBirthEntry({name, dateOf(date), 0, 0}).value_or("");
 }
 
 TEST(InputCheck, StopsAtTheFirstFailure) {
