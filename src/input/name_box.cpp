@@ -42,9 +42,9 @@ void NameBox::setName(const QString& name) {
 // Line ends at the end come with a copied line and go in silence.
 QString NameBox::filtered(QStringView text) {
     while (text.endsWith(QLatin1Char('\n')) || text.endsWith(QLatin1Char('\r'))) text.chop(1);
-    const FilteredName name = filterName(text.toString().toStdU16String());
-    if (name.rejectedAny) emit rejected();
-    return QString::fromStdU16String(name.accepted);
+    const QString accepted = QString::fromStdU16String(filterName(text.toString().toStdU16String()));
+    if (accepted.size() < text.size()) emit rejected();
+    return accepted;
 }
 
 // Enters what passes the filter in place of the selection. Where nothing does, nothing changes.

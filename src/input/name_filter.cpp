@@ -1,15 +1,13 @@
 #include "input/name_filter.h"
 
-FilteredName filterName(std::u16string_view text) {
-    FilteredName result{{}, false};
+std::u16string filterName(std::u16string_view text) {
+    std::u16string accepted;
     for (const char16_t character : text) {
         if (character >= u'a' && character <= u'z') {
-            result.accepted += static_cast<char16_t>(character - 32);
+            accepted += static_cast<char16_t>(character - 32);
         } else if ((character >= u'A' && character <= u'Z') || character == u' ') {
-            result.accepted += character;
-        } else {
-            result.rejectedAny = true;
+            accepted += character;
         }
     }
-    return result;
+    return accepted;
 }

@@ -4,9 +4,5 @@
 #include <string>
 #include <string_view>
 
-struct FilteredName {
-    std::u16string accepted;  // letters in capitals, blanks as they are, everything else left out
-    bool rejectedAny;         // whether anything was left out
-};
-
-FilteredName filterName(std::u16string_view text);
+// The letters as capitals, and the blanks; everything else is left out.
+std::u16string filterName(std::u16string_view text);

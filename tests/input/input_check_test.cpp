@@ -25,10 +25,6 @@ TEST(InputCheck, StopsAtTheFirstFailure) {
         EXPECT_EQ(failureOf(u" ", date), "") << date;
 }
 
-TEST(NameFilter, KeepsLettersAsCapitalsAndBlanks) {
-    const auto [accepted, rejectedAny] = filterName(u"@AZ[ `az{\u00E9");
-    EXPECT_TRUE(accepted == u"AZ AZ" && rejectedAny);
-    EXPECT_FALSE(filterName(u" az").rejectedAny);
-}
+TEST(NameFilter, KeepsLettersAsCapitalsAndBlanks) { EXPECT_TRUE(filterName(u"@AZ[ `az{\u00E9") == u"AZ AZ"); }
 
 }  // namespace
