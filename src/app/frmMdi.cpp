@@ -124,37 +124,32 @@ void frmMdi::focusStrip(bool first) {
     first ? lblBanner->setFocus(Qt::TabFocusReason) : cmdMdiExit->setFocus(Qt::BacktabFocusReason);
 }
 
-bool frmMdi::fillsScreen() const {
-    const QRect room = screen()->availableGeometry();
-    return isMaximized() || isFullScreen() || (placesAreKnown() && frameGeometry().contains(room));
+// The rectangle, in the frame's coordinates, by which strip and chart are placed: the screen's while the
+// frame fills it, else the frame's own. Where positions are not known, the frame is taken as centred on the
+// screen.
+QRect frmMdi::placedBy() const {
+    const QRect place = screen()->geometry(), frame = frameGeometry();
+    const bool known = placesAreKnown();
+    const bool covers = known && frame.contains(screen()->availableGeometry());
+    if (!covers && !isMaximized() && !isFullScreen()) return rect();
+    const int left = known ? geometry().x() - place.x() : (place.width() - width()) / 2;
+    return {QPoint{-left, 0}, place.size()};
 }
 
-// The distance from the screen's left edge to the frame's client area. Where positions are not known, the
-// frame is taken as centred on the screen.
-int frmMdi::leftOnScreen() const {
-    const QRect place = screen()->geometry();
-    return placesAreKnown() ? geometry().x() - place.x() : (place.width() - width()) / 2;
-}
-
-// The edge from which the buttons are placed, in the frame's coordinates: the screen's where the frame fills
-// the screen up to it, else the frame's own.
-int frmMdi::rightEdge() const {
-    const QRect place = screen()->geometry();
-    const bool reaches = placesAreKnown() && fillsScreen() && frameGeometry().right() >= place.right();
-    return reaches ? place.width() - leftOnScreen() : width();
-}
-
-// The left edge, in the frame's coordinates, for something of that width: centred on the screen while the
-// frame fills it, else in the frame, and never outside the frame.
+// The left edge of something of that width that is centred, but not outside the frame.
 int frmMdi::centredLeft(int width) const {
-    const int middle = fillsScreen() ? screen()->geometry().width() / 2 - leftOnScreen() : this->width() / 2;
-    return std::clamp(middle - width / 2, 0, std::max(0, this->width() - width));
+    const QRect room = placedBy();
+    return std::clamp(room.x() + room.width() / 2 - width / 2, 0, std::max(0, this->width() - width));
 }
 
-// Distances from the edge are in twips. Intentional: the middle gap is wider than the others. Where the
-// banner would overlap the buttons, they move to a second row.
+// Distances from the edge are in twips. The edge is the frame's own where the frame does not reach that of
+// the screen. Intentional: the middle gap is wider than the others. Where the banner would overlap the
+// buttons, they move to a second row.
 void frmMdi::placeStrip() {
-    const auto leftAt = [edge = rightEdge()](int distance) { return edge - pixels(buttonWidth + distance); };
+    const QRect room = placedBy();
+    const bool reaches = room.right() <= frameGeometry().right() - geometry().x();
+    const int edge = reaches ? room.right() + 1 : width();
+    const auto leftAt = [=](int distance) { return edge - pixels(buttonWidth + distance); };
     const int bannerLeft = centredLeft(lblBanner->width());
     const bool narrow = bannerLeft + lblBanner->width() + stripMargin > leftAt(4280);
     const int rowHeight = std::max(buttonSize.height(), lblBanner->height());

@@ -43,9 +43,7 @@ class frmMdi : public QMainWindow {
     void focusStrip(bool first);
     void placeStrip();
     void placeChart();
-    bool fillsScreen() const;
-    int leftOnScreen() const;
-    int rightEdge() const;
+    QRect placedBy() const;
     int centredLeft(int width) const;
 
     frmDisplay* chart_;
