@@ -113,7 +113,7 @@ void frmDisplay::createGround() {
 
 void frmDisplay::createMenus() {
     menus_ = newMenuBar(this);
-    auto* mnuFile = addMenu(menus_, "mnuFile", "&File");
+    auto* mnuFile = named(menus_->addMenu(QStringLiteral("&File")), "mnuFile");
     addEntry(mnuFile, "mnuShowAll", "Show All", this, &frmDisplay::showAllRequested);
     addEntry(mnuFile, "mnuSavejpg", "Save as JPG", this, &frmDisplay::savePictureRequested);
     mnuFile->addSeparator();

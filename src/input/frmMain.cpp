@@ -159,7 +159,7 @@ QWidget* frmMain::createButtons() {
 
 void frmMain::createMenus() {
     QMenuBar* menus = newMenuBar(this);
-    auto* mnuFile = addMenu(menus, "mnuFile", "&File");
+    auto* mnuFile = named(menus->addMenu(QStringLiteral("&File")), "mnuFile");
     addEntry(mnuFile, "mnuGenerateChart", "Get My &Palace Lantern Chart", this,
              &frmMain::cmdGenerateChart_Click);
     // Intentional: "Previoysly".

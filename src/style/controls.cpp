@@ -31,7 +31,3 @@ QMenuBar* newMenuBar(QWidget* window) {
     menus->setContextMenuPolicy(Qt::PreventContextMenu);
     return menus;
 }
-
-QMenu* addMenu(QMenuBar* menus, const char* name, const char* caption) {
-    return named(menus->addMenu(latin(caption)), name);
-}

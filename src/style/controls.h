@@ -72,6 +72,3 @@ QAction* addEntry(QMenu* menu, const char* name, const char* caption, Form* form
 
 // A menu bar inside the window, without a context menu.
 QMenuBar* newMenuBar(QWidget* window);
-
-// Adds a menu to the menu bar.
-QMenu* addMenu(QMenuBar* menus, const char* name, const char* caption);
