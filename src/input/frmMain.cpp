@@ -1,9 +1,11 @@
 #include "input/frmMain.h"
 
 #include <QCloseEvent>
+#include <QComboBox>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QLabel>
+#include <QListView>
 #include <QMimeData>
 #include <QScreen>
 #include <QScrollArea>
@@ -13,7 +15,6 @@
 #include "files/chart_file.h"
 #include "help/banner_link.h"
 #include "help/help_menu.h"
-#include "input/drop_down_list.h"
 #include "input/input_check.h"
 #include "input/name_box.h"
 #include "style/controls.h"
@@ -22,6 +23,16 @@
 #include "style/message.h"
 
 namespace {
+
+// Until Qt 6.8: QListView sends the accessibility focus event of its current entry even while it is hidden,
+// for example when a key changes the entry.
+class EntryView : public QListView {
+  protected:
+    void currentChanged(const QModelIndex& current, const QModelIndex& previous) override {
+        isVisible() ? QListView::currentChanged(current, previous)
+                    : QAbstractItemView::currentChanged(current, previous);
+    }
+};
 
 void fillNumbers(QComboBox* list, int first, int count) {
     QStringList numbers;
@@ -112,15 +123,23 @@ QWidget* frmMain::createBanner() {
     return banner;
 }
 
+QComboBox* frmMain::createList(const char* name) {
+    auto* list = named(new QComboBox, name);
+    list->setFocusPolicy(Qt::StrongFocus);
+    list->setMaxVisibleItems(16);
+    list->installEventFilter(this);
+    return list;
+}
+
 QWidget* frmMain::createDetails() {
     txtName = named(new NameBox, "txtName");
     // Queued, so that no modal message opens while the box handles an event.
     connectControl(txtName, &NameBox::rejected, this, &frmMain::txtName_KeyPress, Qt::QueuedConnection);
-    cmbDate = named(new DropDownList, "cmbDate");
-    cmbMonth = named(new DropDownList, "cmbMonth");
-    cmbYear = named(new DropDownList, "cmbYear");
-    cmbHour = named(new DropDownList, "cmbHour");
-    cmbMinute = named(new DropDownList, "cmbMinute");
+    cmbDate = createList("cmbDate");
+    cmbMonth = createList("cmbMonth");
+    cmbYear = createList("cmbYear");
+    cmbHour = createList("cmbHour");
+    cmbMinute = createList("cmbMinute");
 
     auto* details = new QGroupBox{QStringLiteral("Enter your Details")};
     details->installEventFilter(this);
@@ -251,11 +270,21 @@ void frmMain::dropEvent(QDropEvent* event) {
     QMetaObject::invokeMethod(this, open, Qt::QueuedConnection);
 }
 
-// Qt 6.8 still: where the desktop lets Enter press buttons, QGroupBox accepts it, and Enter in the name box
-// would not reach the default button.
+// A list handles the wheel only while it has the focus. Qt 6.8 still: where the desktop lets Enter press
+// buttons, QComboBox opens its list on Enter and QGroupBox accepts it, so it would not reach the default
+// button.
 bool frmMain::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() != QEvent::KeyPress && event->type() != QEvent::KeyRelease)
-        return QDialog::eventFilter(watched, event);
+    const bool pressed = event->type() == QEvent::KeyPress;
+    bool ignored = pressed || event->type() == QEvent::KeyRelease;
+    if (auto* list = qobject_cast<QComboBox*>(watched)) {
+        const int key = pressed ? static_cast<QKeyEvent*>(event)->key() : 0;
+        const bool enter = key == Qt::Key_Return || key == Qt::Key_Enter;
+        ignored = enter || (event->type() == QEvent::Wheel && !list->hasFocus());
+        // Only now: five more views would slow the start down.
+        if (pressed && !enter && dynamic_cast<EntryView*>(list->view()) == nullptr)
+            list->setView(new EntryView);
+    }
+    if (!ignored) return QDialog::eventFilter(watched, event);
     event->ignore();
     return true;
 }
