@@ -7,7 +7,6 @@
 #include "help/pages.h"
 #include "style/controls.h"
 #include "style/look.h"
-#include "style/mark.h"
 
 namespace {
 
@@ -38,7 +37,7 @@ frmAbout::frmAbout(QWidget* parent) : QDialog(parent) {
     grid->setSizeConstraint(QLayout::SetFixedSize);
     grid->setContentsMargins(18, 18, 18, 14);
     grid->setHorizontalSpacing(16);
-    grid->addWidget(new Mark{64}, 0, 0, 3, 1, Qt::AlignTop);
+    grid->addWidget(look::newMark(64), 0, 0, 3, 1, Qt::AlignTop);
     grid->addWidget(product, 0, 1);
     grid->addWidget(
         plainLabel(QStringLiteral("Version %1").arg(QStringLiteral(PALACE_LANTERN_VERSION)), "lblVersion"), 1,

@@ -19,7 +19,6 @@
 #include "input/name_box.h"
 #include "style/controls.h"
 #include "style/look.h"
-#include "style/mark.h"
 #include "style/message.h"
 
 namespace {
@@ -117,7 +116,7 @@ QWidget* frmMain::createBanner() {
     auto* banner = new QWidget;
     auto* row = new QHBoxLayout{banner};
     row->setContentsMargins(0, 0, 0, 0);
-    row->addWidget(new Mark{48});
+    row->addWidget(look::newMark(48));
     row->addWidget(lblBanner = new BannerLink{look::titleFont(), this, banner});
     row->addStretch();
     return banner;

@@ -3,9 +3,9 @@
 
 #include <QColor>
 #include <QFont>
+#include <QLabel>
 #include <QPalette>
 #include <QString>
-#include <QWidget>
 #include <initializer_list>
 
 #include "interpret/text_run.h"
@@ -57,5 +57,8 @@ QFont titleFont();
 
 QString productName();
 QIcon productIcon(std::initializer_list<int> sizes);
+
+// A label with the program's icon in so many pixels, sharp at every device pixel ratio.
+QLabel* newMark(int size);
 
 }  // namespace look
