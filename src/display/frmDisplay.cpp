@@ -1,11 +1,12 @@
 #include "display/frmDisplay.h"
 
-#include <QEvent>
+#include <QKeyEvent>
 #include <QPainter>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QVBoxLayout>
 #include <algorithm>
+#include <utility>
 
 #include "display/chart_accessibility.h"
 #include "display/chart_square.h"
@@ -92,11 +93,6 @@ frmDisplay::frmDisplay(const ChartModel& chart, const BirthEntry& entry) {
     rows->addWidget(scroll_);
 }
 
-// A cover that loses the focus while it is destroyed must not call the form.
-frmDisplay::~frmDisplay() {
-    for (LblCover* cover : lblCover) cover->disconnect(this);
-}
-
 void frmDisplay::createGround() {
     gfg = named(new QWidget, "gfg");
     QPalette papers;
@@ -161,12 +157,7 @@ void frmDisplay::createCover(CellIndex cell, const ChartModel& chart) {
     cover->setAccessibleName(spokenCell(chart, cell));
     connectControl(cover, &LblCover::clicked, this,
                    [cell](frmDisplay* form) { emit form->palaceClicked(cell.value()); });
-    connect(cover, &LblCover::pointerChanged, this, &frmDisplay::showHint);
-    connect(cover, &LblCover::focusChanged, this,
-            [this, cover](Qt::FocusReason reason) { followFocus(cover, reason); });
-    connect(cover, &LblCover::stepWanted, this, [this, cell](QPoint step) {
-        lblCover[neighbour(cell, step).index()]->setFocus(Qt::OtherFocusReason);
-    });
+    cover->installEventFilter(this);
 }
 
 void frmDisplay::createCentre() {
@@ -276,9 +267,40 @@ void frmDisplay::showEvent(QShowEvent* event) {
 }
 
 bool frmDisplay::eventFilter(QObject* watched, QEvent* event) {
+    if (auto* cover = qobject_cast<LblCover*>(watched)) return coverEvent(cover, event);
     if (event->type() != QEvent::HoverMove) return QWidget::eventFilter(watched, event);
     keysLead_ = false;
     showHint();
+    return true;
+}
+
+bool frmDisplay::coverEvent(LblCover* cover, QEvent* event) {
+    switch (event->type()) {
+        case QEvent::Enter:
+        case QEvent::Leave:
+            cover->update();
+            showHint();
+            return false;
+        case QEvent::FocusIn:
+        case QEvent::FocusOut:
+            followFocus(cover, static_cast<QFocusEvent*>(event)->reason());
+            return false;
+        case QEvent::KeyPress:
+            return moveFocus(cover, static_cast<QKeyEvent*>(event)->key());
+        default:
+            return false;
+    }
+}
+
+// Whether the key is an arrow key, which moves the focus to the next cell.
+bool frmDisplay::moveFocus(const LblCover* from, int key) {
+    const std::pair<int, QPoint> steps[]{
+        {Qt::Key_Left, {-1, 0}}, {Qt::Key_Right, {1, 0}}, {Qt::Key_Up, {0, -1}}, {Qt::Key_Down, {0, 1}}};
+    const auto* step = std::ranges::find(steps, key, &std::pair<int, QPoint>::first);
+    if (step == std::end(steps)) return false;
+    const auto cell = std::ranges::find(lblCover, from) - lblCover.begin();
+    const CellIndex next = neighbour(CellIndex{static_cast<int>(cell)}, step->second);
+    lblCover[next.index()]->setFocus(Qt::OtherFocusReason);
     return true;
 }
 

@@ -13,14 +13,7 @@ class LblCover : public PressArea {
     // Whether hovering and the focus are painted: on the screen, but not in an exported picture.
     void setMarked(bool marked) { marked_ = marked; }
 
-  signals:
-    void pointerChanged();  // entered the cell or left it
-    void focusChanged(Qt::FocusReason reason);
-    void stepWanted(QPoint step);  // one column or one row, by an arrow key
-
   protected:
-    bool event(QEvent* event) override;
-    void keyPressEvent(QKeyEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
   private:
