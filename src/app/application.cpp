@@ -63,8 +63,10 @@ void Application::showChart(const BirthEntry& entry) {
     auto* display = new frmDisplay{chart_, entry};
     frame_ = std::make_unique<frmMdi>(display, QString::fromStdU16String(chart_.input.name));
     frmMdi* frame = frame_.get();
-    connect(display, &frmDisplay::palaceClicked, this, &Application::openPalace);
-    connect(frame, &frmMdi::showAllRequested, this, &Application::openAllPalaces);
+    connect(display, &frmDisplay::palaceClicked, this,
+            [this](int cell) { openAnalysis(AnalysisKind::onePalace, composePalaceAnalysis(chart_, cell)); });
+    connect(frame, &frmMdi::showAllRequested, this,
+            [this] { openAnalysis(AnalysisKind::allPalaces, composeAllPalaces(chart_)); });
     connect(frame, &frmMdi::savePictureRequested, display,
             [=] { exportPicture(display->clientPicture(), converterPath(), frame); });
     connect(frame, &frmMdi::backRequested, this, &Application::cmdBack_Click);
@@ -72,12 +74,6 @@ void Application::showChart(const BirthEntry& entry) {
     input_->hide();
     frame->showInPlaceOf(*input_);
 }
-
-void Application::openPalace(int cell) {
-    openAnalysis(AnalysisKind::onePalace, composePalaceAnalysis(chart_, cell));
-}
-
-void Application::openAllPalaces() { openAnalysis(AnalysisKind::allPalaces, composeAllPalaces(chart_)); }
 
 void Application::openAnalysis(AnalysisKind kind, const std::vector<TextRun>& palaceRuns) {
     std::vector<TextRun> runs{introRun()};

@@ -30,8 +30,6 @@ class Application : public QObject {
     bool openChart(const QString& path);
     void castChart(const BirthEntry& entry);
     void showChart(const BirthEntry& entry);
-    void openPalace(int cell);
-    void openAllPalaces();
     void openAnalysis(AnalysisKind kind, const std::vector<TextRun>& runs);
     void saveChart(QWidget* parent);
     void cmdBack_Click();
