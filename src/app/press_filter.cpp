@@ -8,14 +8,6 @@
 
 #include "style/platform.h"
 
-namespace {
-
-bool entersText(const QWidget* widget) {
-    return widget != nullptr && widget->testAttribute(Qt::WA_InputMethodEnabled);
-}
-
-}  // namespace
-
 bool PressFilter::discards(QObject* receiver, QEvent* event) {
     auto* window = qobject_cast<QWindow*>(receiver);
     if (window == nullptr) return false;
@@ -42,8 +34,10 @@ bool PressFilter::discards(QObject* receiver, QEvent* event) {
 bool PressFilter::isRepeated(const QKeyEvent& key) const {
     constexpr quint64 atOnce = 2;  // milliseconds
     const int code = key.key();
+    const QWidget* focus = QApplication::focusWidget();
+    const bool writes = focus != nullptr && focus->testAttribute(Qt::WA_InputMethodEnabled);
     const bool enter = code == Qt::Key_Return || code == Qt::Key_Enter;
-    const bool space = code == Qt::Key_Space && !entersText(QApplication::focusWidget());
+    const bool space = code == Qt::Key_Space && !writes;
     const bool follows = code == releasedKey_ && key.timestamp() - released_ <= atOnce;
     const bool repeated = key.isAutoRepeat() || (key.timestamp() != 0 && follows);
     return (enter || space) && repeated;
