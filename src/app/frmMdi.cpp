@@ -1,6 +1,5 @@
 #include "app/frmMdi.h"
 
-#include <QCloseEvent>
 #include <QKeyEvent>
 #include <QMdiArea>
 #include <QMdiSubWindow>
@@ -207,7 +206,4 @@ void frmMdi::keyPressEvent(QKeyEvent* event) {
     QMainWindow::keyPressEvent(event);
 }
 
-void frmMdi::closeEvent(QCloseEvent* event) {
-    event->accept();
-    emit closed();
-}
+void frmMdi::closeEvent(QCloseEvent*) { emit closed(); }

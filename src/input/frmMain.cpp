@@ -1,9 +1,9 @@
 #include "input/frmMain.h"
 
-#include <QCloseEvent>
 #include <QComboBox>
 #include <QGridLayout>
 #include <QGroupBox>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QListView>
 #include <QMimeData>
@@ -245,10 +245,8 @@ void frmMain::clearEntry() {
     txtName->setFocus();
 }
 
-void frmMain::closeEvent(QCloseEvent* event) {
-    event->accept();
-    emit closed();
-}
+// Not by QDialog, which would call reject().
+void frmMain::closeEvent(QCloseEvent*) { emit closed(); }
 
 // Accepts one chart file while no dialog is open. Always as a copy: after a move, the sender deletes it.
 void frmMain::considerDrop(QDropEvent* event) {
