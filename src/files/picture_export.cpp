@@ -33,12 +33,6 @@ PictureName nameFor(const QString& chosenPath) {
          QDateTime::currentDateTime().toString(QStringLiteral("yyyyMMddhhmmsszzz")).toStdString()});
 }
 
-void tellTooManyCopies(const QString& fileName, QWidget* parent) {
-    showMessage(parent, QMessageBox::Critical,
-                QStringLiteral("There are too many Copies of this file  ") + fileName,
-                QStringLiteral(" UNABLE  TO  CREATE  NEW  FILE") + fileName);
-}
-
 // Creates the bitmap beside the picture; under a temporary name if its own is taken or is the picture's.
 std::unique_ptr<QFile> newBitmap(const PictureName& picture) {
     const std::string path = bitmapPathFor(picture.path());
@@ -65,7 +59,10 @@ void exportPicture(const QPixmap& picture, const QString& converter, QWidget* pa
 void savePictureAs(const QPixmap& picture, const QString& chosenPath, const QString& converter,
                    QWidget* parent) {
     const PictureName name = nameFor(chosenPath);
-    if (name.tooManyCopies) tellTooManyCopies(decoded(name.name), parent);
+    if (name.tooManyCopies)
+        showMessage(parent, QMessageBox::Critical,
+                    QStringLiteral("There are too many Copies of this file  ") + decoded(name.name),
+                    QStringLiteral(" UNABLE  TO  CREATE  NEW  FILE") + decoded(name.name));
     const std::unique_ptr<QFile> bitmap = newBitmap(name);
     if (bitmap == nullptr) return;
     const auto guard = qScopeGuard([&bitmap] { bitmap->remove(); });

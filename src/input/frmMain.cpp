@@ -47,7 +47,6 @@ void selectText(QComboBox* list, const std::string& entry) {
 // A label that is also the accessible name of its control.
 QLabel* caption(const char* words, QWidget* control = nullptr) {
     auto* label = new QLabel{latin(words)};
-    label->setTextFormat(Qt::PlainText);
     label->setBuddy(control);
     return label;
 }
