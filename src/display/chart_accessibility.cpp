@@ -4,8 +4,7 @@
 #include <QScrollArea>
 
 #include "display/chart_square.h"
-#include "display/lbl_cover.h"
-#include "style/controls.h"
+#include "style/text.h"
 
 namespace {
 

@@ -10,7 +10,6 @@
 
 #include "display/chart_accessibility.h"
 #include "display/chart_square.h"
-#include "display/lbl_cover.h"
 #include "help/help_menu.h"
 #include "style/controls.h"
 #include "style/look.h"
