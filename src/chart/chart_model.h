@@ -36,13 +36,16 @@ enum class Star : std::uint8_t {
 inline constexpr std::size_t starCount = static_cast<std::size_t>(Star::TianGuan) + 1;
 
 // A palace cell, one field for each of its labels. A caption holds the label's text; a flag says whether the
-// label is shown, which always has the same text.
-struct ChartCell {
-    Caption lblPalace, lblPalaceSteam, lblEarthlyBranches, lblBody;
+// label is shown, which always has the same text. Every chart begins with empty CellCaptions.
+struct CellCaptions {
+    Caption lblPalace, lblPalaceSteam, lblBody;
     Caption lblMajorStars, lblTianFu;
     Caption lblWenChang, lblWenQi, lblDiJie, lblDiKong, lblTaiFu, lblFengGao;
     Caption lblZuoFu, lblYouBi, lblTianYao, lblTianXing;
     Caption lblSanTai, lblBaZuo, lblEnGuang, lblTianGui;
+};
+struct ChartCell : CellCaptions {
+    Caption lblEarthlyBranches;
     bool lblTianYue = false, lblJieShen = false, lblTianWu = false, lblYinSha = false;
     bool lblLuCun = false, lblQingYang = false, lblTuoLuo = false, lblTianKui = false, lblTianYueTwo = false;
     bool lblHuaLu = false, lblHuaQuan = false, lblHuake = false, lblHuaJi = false;
