@@ -39,11 +39,6 @@ void fillNumbers(QComboBox* list, int first, int count) {
     list->addItems(numbers);
 }
 
-void selectText(QComboBox* list, const std::string& entry) {
-    const int index = list->findText(latin(entry), Qt::MatchExactly | Qt::MatchCaseSensitive);
-    if (index >= 0) list->setCurrentIndex(index);
-}
-
 // A label that is also the accessible name of its control.
 QLabel* caption(const char* words, QWidget* control = nullptr) {
     auto* label = new QLabel{latin(words)};
@@ -208,9 +203,9 @@ void frmMain::showInPlaceOf(const QWidget& frame) {
 
 void frmMain::fillIn(const ChartFileValues& values) {
     txtName->setName(latin(values.name));
-    selectText(cmbDate, values.day);
-    selectText(cmbMonth, values.month);
-    selectText(cmbYear, values.year);
+    cmbDate->setCurrentText(latin(values.day));
+    cmbMonth->setCurrentText(latin(values.month));
+    cmbYear->setCurrentText(latin(values.year));
 }
 
 void frmMain::askForTime() {
