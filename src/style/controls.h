@@ -30,12 +30,11 @@ void connectControl(Sender* sender, Signal signal, Form* form, Handler handler,
     QObject::connect(sender, signal, form, act, type);
 }
 
-// A button that Enter presses on every desktop. Qt 6.8 still: the access key of a QAbstractButton clicks only
-// after 100 ms, and a key pressed in that time still goes to the old window (Alt+B, then Enter on a palace).
-// Here it clicks immediately.
+// Qt 6.8 still: the access key of a QAbstractButton clicks only after 100 ms, and a key pressed in that time
+// still goes to the old window (Alt+B, then Enter on a palace). Here it clicks immediately.
 class CommandButton : public QPushButton {
   public:
-    explicit CommandButton(const char* caption, QWidget* parent = nullptr);
+    using QPushButton::QPushButton;
 
   protected:
     bool event(QEvent* event) override;
@@ -51,11 +50,12 @@ class PressArea : public QAbstractButton {
     void keyPressEvent(QKeyEvent* event) override;
 };
 
-// A new button whose clicks call the form's handler.
+// A new button, which Enter presses on every desktop, and whose clicks call the form's handler.
 template <class Form, class Handler>
 QPushButton* newButton(const char* name, const char* caption, Form* form, Handler handler,
                        QWidget* parent = nullptr) {
-    QPushButton* button = named(new CommandButton{caption, parent}, name);
+    QPushButton* button = named(new CommandButton{latin(caption), parent}, name);
+    button->setAutoDefault(true);
     connectControl(button, &QPushButton::clicked, form, handler);
     return button;
 }
