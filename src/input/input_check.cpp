@@ -7,3 +7,15 @@ std::optional<std::string_view> checkBirthEntry(const BirthEntry& entry) {
     return entry.date.month() == 2 ? "Please Enter Correct Date Of Birth !"
                                    : "Please Enter Correct Date Of of Birth !";
 }
+
+std::u16string filterName(std::u16string_view text) {
+    std::u16string accepted;
+    for (const char16_t character : text) {
+        if (character >= u'a' && character <= u'z') {
+            accepted += static_cast<char16_t>(character - 32);
+        } else if ((character >= u'A' && character <= u'Z') || character == u' ') {
+            accepted += character;
+        }
+    }
+    return accepted;
+}

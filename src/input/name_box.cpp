@@ -11,7 +11,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "input/name_filter.h"
+#include "input/input_check.h"
 
 namespace {
 

@@ -5,7 +5,6 @@
 #include <gtest/gtest.h>
 
 #include "chart_text.h"
-#include "input/name_filter.h"
 
 namespace {
 
