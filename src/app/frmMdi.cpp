@@ -123,9 +123,8 @@ void frmMdi::focusStrip(bool first) {
     first ? lblBanner->setFocus(Qt::TabFocusReason) : cmdMdiExit->setFocus(Qt::BacktabFocusReason);
 }
 
-// The rectangle, in the frame's coordinates, by which strip and chart are placed: the screen's while the
-// frame fills it, else the frame's own. Where positions are not known, the frame is taken as centred on the
-// screen.
+// The rectangle that strip and chart are placed by, in the frame's coordinates: the screen's while the frame
+// fills it, else the frame's own. Where positions are not known, the frame counts as centred on the screen.
 QRect frmMdi::placedBy() const {
     const QRect place = screen()->geometry(), frame = frameGeometry();
     const bool known = placesAreKnown();
@@ -141,9 +140,8 @@ int frmMdi::centredLeft(int width) const {
     return std::clamp(room.x() + room.width() / 2 - width / 2, 0, std::max(0, this->width() - width));
 }
 
-// Distances from the edge are in twips. The edge is the frame's own where the frame does not reach that of
-// the screen. Intentional: the middle gap is wider than the others. Where the banner would overlap the
-// buttons, they move to a second row.
+// Distances, in twips, are from the right edge of the screen, or of a frame that does not reach it.
+// Intentional: the middle gap is wider. Buttons that the banner would overlap move to a second row.
 void frmMdi::placeStrip() {
     const QRect room = placedBy();
     const bool reaches = room.right() <= frameGeometry().right() - geometry().x();
@@ -171,8 +169,7 @@ void frmMdi::placeChart() {
     chartWindow_->move(centredLeft(size.width()), std::max(0, (room.height() - size.height()) / 2));
 }
 
-// Places that count from the screen's edges change when the frame moves. Before the frame is visible, its
-// area has no size.
+// Places on the screen change in a frame that moves. Before the frame is visible, its area has no size.
 void frmMdi::moveEvent(QMoveEvent* event) {
     QMainWindow::moveEvent(event);
     if (!isVisible()) return;

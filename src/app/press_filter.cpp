@@ -29,8 +29,7 @@ bool PressFilter::discards(QObject* receiver, QEvent* event) {
     }
 }
 
-// Qt 6.8 still: isAutoRepeat() is often false under X11, which sends auto-repeat as a release and a press at
-// the same time.
+// Qt 6.8 still: isAutoRepeat() is often false under X11, which repeats by a release and a press at one time.
 bool PressFilter::isRepeated(const QKeyEvent& key) const {
     constexpr quint64 atOnce = 2;  // milliseconds
     const int code = key.key();
@@ -43,8 +42,7 @@ bool PressFilter::isRepeated(const QKeyEvent& key) const {
     return (enter || space) && repeated;
 }
 
-// Where window positions are not known, they still are for a popup relative to its parent. Between other
-// windows only the time counts then.
+// Where positions are not known, only the time counts, except for a popup, which is placed by its parent.
 bool PressFilter::isSecondClick(const QMouseEvent& click, QWindow* window) {
     const QWindow* before = std::exchange(clickedWindow_, window);
     const quint64 time = click.timestamp() - std::exchange(clicked_, click.timestamp());

@@ -7,8 +7,7 @@
 
 #include "style/message.h"
 
-// The lock lies in a folder of this user alone, so that nobody else can hold it. QStandardPaths only returns
-// a runtime folder that the user owns.
+// The lock lies in a folder that only this user has; QStandardPaths returns no other as a runtime folder.
 SingleInstance::SingleInstance() {
     for (const auto place : {QStandardPaths::RuntimeLocation, QStandardPaths::AppLocalDataLocation}) {
         const QString folder = QStandardPaths::writableLocation(place);

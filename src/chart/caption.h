@@ -1,5 +1,4 @@
-// The text of one label of the chart. Its few characters are stored in the object itself, so that casting a
-// chart allocates no memory.
+// The text of a label of the chart, stored in the object itself, so that casting allocates no memory.
 #pragma once
 
 #include <array>
@@ -29,8 +28,7 @@ class Caption {
     std::uint8_t size_ = 0;
 };
 
-// The upper text, a line break (carriage return and line feed) and the lower text: at most 15 characters, for
-// which a std::string allocates nothing either.
+// The upper text, CR LF and the lower text: at most 15 characters, which a std::string stores in itself, too.
 inline Caption stacked(const Caption& upper, const Caption& lower) {
     const std::string both = std::string{upper.text()}.append("\r\n").append(lower.text());
     return std::string_view{both};

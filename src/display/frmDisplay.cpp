@@ -35,8 +35,7 @@ QFont scaledFont(const ChartScale& scale, LabelKind kind) {
 
 bool isOneLine(std::size_t label) { return longestTextOf(label).find('\n') == std::string_view::npos; }
 
-// The size of a text in a font. The lines of a text are each rounded up to whole pixels; a single line is
-// not, so that it does not overlap the label below.
+// Each of several lines is rounded up to whole pixels; a single one is not: it would overlap the next label.
 QSize textSize(const QFont& font, std::string_view text) {
     const QFontMetricsF metrics{font};
     const QStringList lines = latin(text).split(QStringLiteral("\r\n"));
@@ -47,8 +46,7 @@ QSize textSize(const QFont& font, std::string_view text) {
     return {qCeil(width) + 1, height};
 }
 
-// One line of text that a person has entered. It is elided, and control characters are drawn as blanks;
-// text() returns the whole.
+// A line that a person has entered: drawn elided and without control characters; text() is the whole.
 class ElidedLabel : public QLabel {
   public:
     using QLabel::QLabel;

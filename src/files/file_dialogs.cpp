@@ -26,7 +26,6 @@ constexpr Request chartToOpen{QFileDialog::AcceptOpen, "Select the source file",
 // Intentional: the default extension is "txt".
 constexpr Request chartToSave{QFileDialog::AcceptSave, "Palace Lantern", "Palace Lantern (*.plf)", ".txt",
                               true};
-// A name that is taken is not refused, because the picture's naming rule looks for a free one.
 constexpr Request pictureToSave{QFileDialog::AcceptSave, "Save as JPG", "JPEG Image (*.jpg)",
                                 pictureExtension};
 

@@ -23,8 +23,7 @@
 
 namespace {
 
-// Until Qt 6.8: QListView sends the accessibility focus event of its current entry even while it is hidden,
-// for example when a key changes the entry.
+// Until Qt 6.8: a hidden QListView sends accessibility focus events, such as when a key changes the entry.
 class EntryView : public QListView {
   protected:
     void currentChanged(const QModelIndex& current, const QModelIndex& previous) override {
@@ -90,8 +89,7 @@ void frmMain::createControls() {
     rows->addStretch();
     followFont();
 
-    // The form scrolls on a screen that is too small for it. In a window that is too wide, as in a tiling
-    // window manager, the content is centred.
+    // The form scrolls on a screen that is too small, and is centred in a window that is tiled and too wide.
     scroll_ = new QScrollArea;
     scroll_->setWidget(content);
     scroll_->setWidgetResizable(true);
@@ -262,8 +260,7 @@ void frmMain::dropEvent(QDropEvent* event) {
 }
 
 // A list handles the wheel only while it has the focus. Qt 6.8 still: where the desktop lets Enter press
-// buttons, QComboBox opens its list on Enter and QGroupBox accepts it, so it would not reach the default
-// button.
+// buttons, QComboBox and QGroupBox handle it, too, and it would not reach the default button.
 bool frmMain::eventFilter(QObject* watched, QEvent* event) {
     const bool pressed = event->type() == QEvent::KeyPress;
     bool ignored = pressed || event->type() == QEvent::KeyRelease;

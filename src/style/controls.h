@@ -60,8 +60,7 @@ QPushButton* newButton(const char* name, const char* caption, Form* form, Handle
     return button;
 }
 
-// Adds an entry that calls the form's handler. The connection is queued, so that a press over the
-// accessibility bus is answered before a dialog opens.
+// Adds an entry that calls the form's handler; queued, so that the accessibility bus waits for no dialog.
 template <class Form, class Handler>
 QAction* addEntry(QMenu* menu, const char* name, const char* caption, Form* form, Handler handler,
                   const QKeySequence& shortcut = {}) {

@@ -59,8 +59,7 @@ void DesktopStyle::drawControl(ControlElement element, const QStyleOption* optio
         return drawFocusFrame(*painter, option->rect, option->palette);
     }
     QProxyStyle::drawControl(element, option, painter, widget);
-    // Qt 6.8 still: QFusionStyle draws the line below a menu bar in pieces, with gaps at a fractional device
-    // pixel ratio.
+    // Qt 6.8 still: QFusionStyle draws the line below a menu bar with gaps at a fractional pixel ratio.
     const bool ofMenuBar = element == CE_MenuBarItem || element == CE_MenuBarEmptyArea;
     if (ofMenuBar && baseStyle()->name() == QStringLiteral("fusion")) {
         const QColor ground = option->palette.color(QPalette::Window);
