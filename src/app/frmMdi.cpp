@@ -144,7 +144,7 @@ int frmMdi::centredLeft(int width) const {
 // Intentional: the middle gap is wider. Buttons that the banner would overlap move to a second row.
 void frmMdi::placeStrip() {
     const QRect room = placedBy();
-    const bool reaches = room.right() <= frameGeometry().right() - geometry().x();
+    const bool reaches = placesAreKnown() && room.right() <= frameGeometry().right() - geometry().x();
     const int edge = reaches ? room.right() + 1 : width();
     const auto leftAt = [=](int distance) { return edge - pixels(buttonWidth + distance); };
     const int bannerLeft = centredLeft(lblBanner->width());
