@@ -6,7 +6,6 @@
 #include <QScrollBar>
 #include <QVBoxLayout>
 #include <algorithm>
-#include <utility>
 
 #include "display/chart_accessibility.h"
 #include "display/chart_square.h"
@@ -291,12 +290,11 @@ bool frmDisplay::coverEvent(LblCover* cover, QEvent* event) {
 
 // Whether the key is an arrow key, which moves the focus to the next cell.
 bool frmDisplay::moveFocus(const LblCover* from, int key) {
-    const std::pair<int, QPoint> steps[]{
-        {Qt::Key_Left, {-1, 0}}, {Qt::Key_Right, {1, 0}}, {Qt::Key_Up, {0, -1}}, {Qt::Key_Down, {0, 1}}};
-    const auto* step = std::ranges::find(steps, key, &std::pair<int, QPoint>::first);
-    if (step == std::end(steps)) return false;
+    const QPoint step{(key == Qt::Key_Right) - (key == Qt::Key_Left),
+                      (key == Qt::Key_Down) - (key == Qt::Key_Up)};
+    if (step.isNull()) return false;
     const auto cell = std::ranges::find(lblCover, from) - lblCover.begin();
-    const CellIndex next = neighbour(CellIndex{static_cast<int>(cell)}, step->second);
+    const CellIndex next = neighbour(CellIndex{static_cast<int>(cell)}, step);
     lblCover[next.index()]->setFocus(Qt::OtherFocusReason);
     return true;
 }
