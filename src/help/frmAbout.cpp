@@ -4,7 +4,7 @@
 #include <QLabel>
 #include <QShortcut>
 
-#include "help/pages.h"
+#include "help/help_menu.h"
 #include "style/controls.h"
 #include "style/look.h"
 
