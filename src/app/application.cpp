@@ -16,7 +16,10 @@
 
 Application::Application() : input_(std::make_unique<frmMain>()) {
     connect(input_.get(), &frmMain::entered, this, &Application::castChart);
-    connect(input_.get(), &frmMain::openRequested, this, &Application::askForAndOpenChart);
+    connect(input_.get(), &frmMain::openRequested, this, [this] {
+        const QString path = askForChartFile(input_.get());
+        if (!path.isEmpty()) openAndCastChart(path);
+    });
     connect(input_.get(), &frmMain::fileDropped, this, &Application::openAndCastChart);
     connect(input_.get(), &frmMain::closed, this, &Application::unloadAll);
 }
@@ -27,11 +30,6 @@ Application::~Application() = default;
 void Application::start(const QString& chartFile) {
     input_->show();
     if (!chartFile.isEmpty() && openChart(chartFile)) input_->askForTime();
-}
-
-void Application::askForAndOpenChart() {
-    const QString path = askForChartFile(input_.get());
-    if (!path.isEmpty()) openAndCastChart(path);
 }
 
 void Application::openAndCastChart(const QString& path) {

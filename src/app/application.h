@@ -25,7 +25,6 @@ class Application : public QObject {
     static void unloadAll();
 
   private:
-    void askForAndOpenChart();
     void openAndCastChart(const QString& path);
     bool openChart(const QString& path);
     void castChart(const BirthEntry& entry);
