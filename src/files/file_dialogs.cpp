@@ -29,11 +29,6 @@ constexpr Request chartToSave{QFileDialog::AcceptSave, "Palace Lantern", "Palace
 constexpr Request pictureToSave{QFileDialog::AcceptSave, "Save as JPG", "JPEG Image (*.jpg)",
                                 pictureExtension};
 
-bool isComplete(const Request& request, const QFileInfo& file) {
-    return request.mode == QFileDialog::AcceptOpen ? file.exists()
-                                                   : file.fileName().contains(QLatin1Char('.'));
-}
-
 // Why the file can't be used; empty where it can.
 QString obstacleTo(const Request& request, const QFileInfo& file) {
     if (request.mode == QFileDialog::AcceptOpen)
@@ -73,8 +68,11 @@ class FileDialog : public QFileDialog {
         const auto* box = findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
         const bool quoted = box != nullptr && box->text().contains(QLatin1Char('"'));
         const QString typed = quoted ? directory().absoluteFilePath(box->text()) : selectedFiles().value(0);
-        if (QFileInfo{typed}.isDir()) return QFileDialog::accept();  // goes there
-        path_ = isComplete(request_, QFileInfo{typed}) ? typed : typed + latin(request_.extension);
+        const QFileInfo given{typed};
+        if (given.isDir()) return QFileDialog::accept();  // goes there
+        const bool opens = request_.mode == AcceptOpen;
+        const bool complete = opens ? given.exists() : given.fileName().contains(QLatin1Char('.'));
+        path_ = complete ? typed : typed + latin(request_.extension);
         const QFileInfo file{path_};
         const QString obstacle = obstacleTo(request_, file);
         if (!obstacle.isEmpty()) return showMessage(this, QMessageBox::Critical, obstacle);
