@@ -14,8 +14,8 @@ frmAbout::frmAbout(QWidget* parent) : QDialog(parent) {
     auto* product = named(new QLabel{look::productName()}, "lblProduct");
     product->setFont(look::titleFont());
     auto* version = named(new QLabel{QStringLiteral("Version " PALACE_LANTERN_VERSION)}, "lblVersion");
-    auto* purpose = named(new QLabel, "lblPurpose");
-    purpose->setText(QStringLiteral("Casts a Zi Wei Dou Shu birth chart and explains it in plain English."));
+    const auto words = QStringLiteral("Casts a Zi Wei Dou Shu birth chart and explains it in plain English.");
+    auto* purpose = named(new QLabel{words}, "lblPurpose");
     purpose->setWordWrap(true);
     purpose->setMinimumWidth(260);
     QPushButton* cmdOk = newButton("cmdOk", "&OK", this, &QDialog::accept);
