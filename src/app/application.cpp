@@ -65,8 +65,11 @@ void Application::showChart(const BirthEntry& entry) {
             [this](int cell) { openAnalysis(AnalysisKind::onePalace, composePalaceAnalysis(chart_, cell)); });
     connect(frame, &frmMdi::showAllRequested, this,
             [this] { openAnalysis(AnalysisKind::allPalaces, composeAllPalaces(chart_)); });
-    connect(frame, &frmMdi::savePictureRequested, display,
-            [=] { exportPicture(display->clientPicture(), converterPath(), frame); });
+    connect(frame, &frmMdi::savePictureRequested, display, [=] {
+        const QPixmap picture = display->clientPicture();
+        const QString chosen = askForPictureName(frame);
+        if (!chosen.isEmpty()) savePictureAs(picture, chosen, converterPath(), frame);
+    });
     connect(frame, &frmMdi::backRequested, this, &Application::cmdBack_Click);
     connect(frame, &frmMdi::closed, this, &Application::unloadAll);
     input_->hide();

@@ -8,7 +8,6 @@
 #include <QTemporaryFile>
 #include <memory>
 
-#include "files/file_dialogs.h"
 #include "files/picture_name.h"
 #include "style/message.h"
 
@@ -50,11 +49,6 @@ void convert(const QString& converter, const QString& bitmapPath, const std::str
 }
 
 }  // namespace
-
-void exportPicture(const QPixmap& picture, const QString& converter, QWidget* parent) {
-    const QString chosen = askForPictureName(parent);
-    if (!chosen.isEmpty()) savePictureAs(picture, chosen, converter, parent);
-}
 
 void savePictureAs(const QPixmap& picture, const QString& chosenPath, const QString& converter,
                    QWidget* parent) {
