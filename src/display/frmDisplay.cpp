@@ -208,10 +208,6 @@ void frmDisplay::applyScale(ChartScale scale) {
 
 void frmDisplay::placeCells() {
     gfg->setFont(scaledFont(scale_, LabelKind::minor));
-    for (const CellIndex cell : allCells) {
-        Square[cell.index()]->setGeometry(scale_.cellFrame(cell));
-        lblCover[cell.index()]->setGeometry(scale_.cellFrame(cell));
-    }
     for (std::size_t i = 0; i < cellLabels.size(); ++i) {
         const CellLabel& label = cellLabels[i];
         const QFont font = scaledFont(scale_, label.kind);
@@ -224,6 +220,8 @@ void frmDisplay::placeCells() {
         }
     }
     for (const CellIndex cell : allCells) {
+        Square[cell.index()]->setGeometry(scale_.cellFrame(cell));
+        lblCover[cell.index()]->setGeometry(scale_.cellFrame(cell));
         QLabel* branch = labels_[cell.index()][rowOf(cellLabels, "lblEarthlyBranches")];
         if (holdsZiWei_[cell.index()]) branch->setFont(scaledFont(scale_, LabelKind::ziWei));
     }
