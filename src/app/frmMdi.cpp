@@ -32,7 +32,7 @@ constexpr int longestTitle = 100;  // characters of the name
 frmMdi::frmMdi(frmDisplay* chart, const QString& person) : chart_(chart) {
     named(this, "frmMdi");
     setWindowTitle(look::productName() + QStringLiteral(" - ") + person.left(longestTitle));
-    createStrip();
+    MDIForm_Load();
     area_ = new QMdiArea;
     area_->setFocusPolicy(Qt::NoFocus);
     auto* content = new QWidget;
@@ -44,14 +44,11 @@ frmMdi::frmMdi(frmDisplay* chart, const QString& person) : chart_(chart) {
     setCentralWidget(content);
     hostChart();
     followPalette();
-    MDIForm_Load();
 }
 
 void frmMdi::followPalette() { area_->setBackground(palette().color(QPalette::Window).darker(112)); }
 
-void frmMdi::MDIForm_Load() { placeStrip(); }
-
-void frmMdi::createStrip() {
+void frmMdi::MDIForm_Load() {
     Picture2 = named(new QWidget, "Picture2");
     QFont font = look::titleFont();
     font.setPixelSize(17);
@@ -66,6 +63,7 @@ void frmMdi::createStrip() {
     cmdShowAll = newButton("cmdShowAll", "&Show All", this, &frmMdi::showAllRequested, Picture2);
     cmdBack = newButton("cmdBack", "&Back", this, &frmMdi::backRequested, Picture2);
     cmdMdiExit = newButton("cmdMdiExit", "&Exit", this, &frmMdi::cmdMdiExit_Click, Picture2);
+    placeStrip();
 }
 
 void frmMdi::hostChart() {

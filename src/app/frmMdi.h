@@ -37,7 +37,6 @@ class frmMdi : public QMainWindow {
 
   private:
     void MDIForm_Load();
-    void createStrip();
     void hostChart();
     void followPalette();
     void focusStrip(bool first);
