@@ -21,11 +21,6 @@ bool isCommand(Qt::KeyboardModifiers modifiers) {
     return held != Qt::NoModifier && held != (Qt::ControlModifier | Qt::AltModifier);
 }
 
-// The text of Enter, Backspace and similar keys is a control character.
-bool isWritten(const QString& text) {
-    return !text.isEmpty() && text.front().category() != QChar::Other_Control;
-}
-
 }  // namespace
 
 NameBox::NameBox() {
@@ -71,11 +66,13 @@ void NameBox::filterSetText(const QString& text) {
 
 // The base class gets commands without their text, which it would insert for some of them.
 void NameBox::keyPressEvent(QKeyEvent* event) {
-    const bool command = isCommand(event->modifiers());
+    const QString text = event->text();
+    // The text of Enter, Backspace and similar keys is a control character.
+    const bool writes = !text.isEmpty() && text.front().category() != QChar::Other_Control;
     if (event->matches(QKeySequence::Paste)) {
         paste(QClipboard::Clipboard);
-    } else if (!command && isWritten(event->text())) {
-        enter(event->text());
+    } else if (writes && !isCommand(event->modifiers())) {
+        enter(text);
     } else {
         QKeyEvent bare{event->type(), event->key(), event->modifiers()};
         QLineEdit::keyPressEvent(&bare);
