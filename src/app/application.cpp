@@ -101,7 +101,6 @@ void Application::cmdBack_Click() {
 }
 
 void Application::unloadAll() {
-    const QWidgetList forms = QApplication::topLevelWidgets();
-    for (QWidget* form : forms) form->hide();
+    for (QWidget* form : QApplication::topLevelWidgets()) form->hide();
     QCoreApplication::quit();
 }

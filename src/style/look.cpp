@@ -12,10 +12,8 @@ namespace {
 
 // Only an installed family: looking for a missing one takes time at every font size.
 QStringList families() {
-    static const QString verdana = QStringLiteral("Verdana");
-    static const QStringList found{QFontDatabase::hasFamily(verdana) ? verdana
-                                                                     : QStringLiteral("DejaVu Sans")};
-    return found;
+    static const bool hasVerdana = QFontDatabase::hasFamily(QStringLiteral("Verdana"));
+    return {hasVerdana ? QStringLiteral("Verdana") : QStringLiteral("DejaVu Sans")};
 }
 
 constexpr double legible = 4.5;
