@@ -9,7 +9,6 @@
 #include "chart/generate.h"
 #include "files/chart_file.h"
 #include "input/input_check.h"
-#include "input/name_filter.h"
 #include "interpret/composer.h"
 #include "interpret/texts.h"
 

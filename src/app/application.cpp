@@ -16,7 +16,10 @@
 
 Application::Application() : input_(std::make_unique<frmMain>()) {
     connect(input_.get(), &frmMain::entered, this, &Application::castChart);
-    connect(input_.get(), &frmMain::openRequested, this, &Application::askForAndOpenChart);
+    connect(input_.get(), &frmMain::openRequested, this, [this] {
+        const QString path = askForChartFile(input_.get());
+        if (!path.isEmpty()) openAndCastChart(path);
+    });
     connect(input_.get(), &frmMain::fileDropped, this, &Application::openAndCastChart);
     connect(input_.get(), &frmMain::closed, this, &Application::unloadAll);
 }
@@ -27,11 +30,6 @@ Application::~Application() = default;
 void Application::start(const QString& chartFile) {
     input_->show();
     if (!chartFile.isEmpty() && openChart(chartFile)) input_->askForTime();
-}
-
-void Application::askForAndOpenChart() {
-    const QString path = askForChartFile(input_.get());
-    if (!path.isEmpty()) openAndCastChart(path);
 }
 
 void Application::openAndCastChart(const QString& path) {
@@ -63,21 +61,20 @@ void Application::showChart(const BirthEntry& entry) {
     auto* display = new frmDisplay{chart_, entry};
     frame_ = std::make_unique<frmMdi>(display, QString::fromStdU16String(chart_.input.name));
     frmMdi* frame = frame_.get();
-    connect(display, &frmDisplay::palaceClicked, this, &Application::openPalace);
-    connect(frame, &frmMdi::showAllRequested, this, &Application::openAllPalaces);
-    connect(frame, &frmMdi::savePictureRequested, display,
-            [=] { exportPicture(display->clientPicture(), converterPath(), frame); });
+    connect(display, &frmDisplay::palaceClicked, this,
+            [this](int cell) { openAnalysis(AnalysisKind::onePalace, composePalaceAnalysis(chart_, cell)); });
+    connect(frame, &frmMdi::showAllRequested, this,
+            [this] { openAnalysis(AnalysisKind::allPalaces, composeAllPalaces(chart_)); });
+    connect(frame, &frmMdi::savePictureRequested, display, [=] {
+        const QPixmap picture = display->clientPicture();
+        const QString chosen = askForPictureName(frame);
+        if (!chosen.isEmpty()) savePictureAs(picture, chosen, converterPath(), frame);
+    });
     connect(frame, &frmMdi::backRequested, this, &Application::cmdBack_Click);
     connect(frame, &frmMdi::closed, this, &Application::unloadAll);
     input_->hide();
     frame->showInPlaceOf(*input_);
 }
-
-void Application::openPalace(int cell) {
-    openAnalysis(AnalysisKind::onePalace, composePalaceAnalysis(chart_, cell));
-}
-
-void Application::openAllPalaces() { openAnalysis(AnalysisKind::allPalaces, composeAllPalaces(chart_)); }
 
 void Application::openAnalysis(AnalysisKind kind, const std::vector<TextRun>& palaceRuns) {
     std::vector<TextRun> runs{introRun()};
@@ -104,7 +101,6 @@ void Application::cmdBack_Click() {
 }
 
 void Application::unloadAll() {
-    const QWidgetList forms = QApplication::topLevelWidgets();
-    for (QWidget* form : forms) form->hide();
+    for (QWidget* form : QApplication::topLevelWidgets()) form->hide();
     QCoreApplication::quit();
 }

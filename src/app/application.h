@@ -25,13 +25,10 @@ class Application : public QObject {
     static void unloadAll();
 
   private:
-    void askForAndOpenChart();
     void openAndCastChart(const QString& path);
     bool openChart(const QString& path);
     void castChart(const BirthEntry& entry);
     void showChart(const BirthEntry& entry);
-    void openPalace(int cell);
-    void openAllPalaces();
     void openAnalysis(AnalysisKind kind, const std::vector<TextRun>& runs);
     void saveChart(QWidget* parent);
     void cmdBack_Click();

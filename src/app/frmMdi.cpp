@@ -1,6 +1,5 @@
 #include "app/frmMdi.h"
 
-#include <QCloseEvent>
 #include <QKeyEvent>
 #include <QMdiArea>
 #include <QMdiSubWindow>
@@ -33,7 +32,7 @@ constexpr int longestTitle = 100;  // characters of the name
 frmMdi::frmMdi(frmDisplay* chart, const QString& person) : chart_(chart) {
     named(this, "frmMdi");
     setWindowTitle(look::productName() + QStringLiteral(" - ") + person.left(longestTitle));
-    createStrip();
+    MDIForm_Load();
     area_ = new QMdiArea;
     area_->setFocusPolicy(Qt::NoFocus);
     auto* content = new QWidget;
@@ -45,14 +44,11 @@ frmMdi::frmMdi(frmDisplay* chart, const QString& person) : chart_(chart) {
     setCentralWidget(content);
     hostChart();
     followPalette();
-    MDIForm_Load();
 }
 
 void frmMdi::followPalette() { area_->setBackground(palette().color(QPalette::Window).darker(112)); }
 
-void frmMdi::MDIForm_Load() { placeStrip(); }
-
-void frmMdi::createStrip() {
+void frmMdi::MDIForm_Load() {
     Picture2 = named(new QWidget, "Picture2");
     QFont font = look::titleFont();
     font.setPixelSize(17);
@@ -67,6 +63,7 @@ void frmMdi::createStrip() {
     cmdShowAll = newButton("cmdShowAll", "&Show All", this, &frmMdi::showAllRequested, Picture2);
     cmdBack = newButton("cmdBack", "&Back", this, &frmMdi::backRequested, Picture2);
     cmdMdiExit = newButton("cmdMdiExit", "&Exit", this, &frmMdi::cmdMdiExit_Click, Picture2);
+    placeStrip();
 }
 
 void frmMdi::hostChart() {
@@ -124,37 +121,30 @@ void frmMdi::focusStrip(bool first) {
     first ? lblBanner->setFocus(Qt::TabFocusReason) : cmdMdiExit->setFocus(Qt::BacktabFocusReason);
 }
 
-bool frmMdi::fillsScreen() const {
-    const QRect room = screen()->availableGeometry();
-    return isMaximized() || isFullScreen() || (placesAreKnown() && frameGeometry().contains(room));
+// The rectangle that strip and chart are placed by, in the frame's coordinates: the screen's while the frame
+// fills it, else the frame's own. Where positions are not known, the frame counts as centred on the screen.
+QRect frmMdi::placedBy() const {
+    const QRect place = screen()->geometry(), frame = frameGeometry();
+    const bool known = placesAreKnown();
+    const bool covers = known && frame.contains(screen()->availableGeometry());
+    if (!covers && !isMaximized() && !isFullScreen()) return rect();
+    const int left = known ? geometry().x() - place.x() : (place.width() - width()) / 2;
+    return {QPoint{-left, 0}, place.size()};
 }
 
-// The distance from the screen's left edge to the frame's client area. Where positions are not known, the
-// frame is taken as centred on the screen.
-int frmMdi::leftOnScreen() const {
-    const QRect place = screen()->geometry();
-    return placesAreKnown() ? geometry().x() - place.x() : (place.width() - width()) / 2;
-}
-
-// The edge from which the buttons are placed, in the frame's coordinates: the screen's where the frame fills
-// the screen up to it, else the frame's own.
-int frmMdi::rightEdge() const {
-    const QRect place = screen()->geometry();
-    const bool reaches = placesAreKnown() && fillsScreen() && frameGeometry().right() >= place.right();
-    return reaches ? place.width() - leftOnScreen() : width();
-}
-
-// The left edge, in the frame's coordinates, for something of that width: centred on the screen while the
-// frame fills it, else in the frame, and never outside the frame.
+// The left edge of something of that width that is centred, but not outside the frame.
 int frmMdi::centredLeft(int width) const {
-    const int middle = fillsScreen() ? screen()->geometry().width() / 2 - leftOnScreen() : this->width() / 2;
-    return std::clamp(middle - width / 2, 0, std::max(0, this->width() - width));
+    const QRect room = placedBy();
+    return std::clamp(room.x() + room.width() / 2 - width / 2, 0, std::max(0, this->width() - width));
 }
 
-// Distances from the edge are in twips. Intentional: the middle gap is wider than the others. Where the
-// banner would overlap the buttons, they move to a second row.
+// Distances, in twips, are from the right edge of the screen, or of a frame that does not reach it.
+// Intentional: the middle gap is wider. Buttons that the banner would overlap move to a second row.
 void frmMdi::placeStrip() {
-    const auto leftAt = [edge = rightEdge()](int distance) { return edge - pixels(buttonWidth + distance); };
+    const QRect room = placedBy();
+    const bool reaches = placesAreKnown() && room.right() <= frameGeometry().right() - geometry().x();
+    const int edge = reaches ? room.right() + 1 : width();
+    const auto leftAt = [=](int distance) { return edge - pixels(buttonWidth + distance); };
     const int bannerLeft = centredLeft(lblBanner->width());
     const bool narrow = bannerLeft + lblBanner->width() + stripMargin > leftAt(4280);
     const int rowHeight = std::max(buttonSize.height(), lblBanner->height());
@@ -177,8 +167,7 @@ void frmMdi::placeChart() {
     chartWindow_->move(centredLeft(size.width()), std::max(0, (room.height() - size.height()) / 2));
 }
 
-// Places that count from the screen's edges change when the frame moves. Before the frame is visible, its
-// area has no size.
+// Places on the screen change in a frame that moves. Before the frame is visible, its area has no size.
 void frmMdi::moveEvent(QMoveEvent* event) {
     QMainWindow::moveEvent(event);
     if (!isVisible()) return;
@@ -212,7 +201,4 @@ void frmMdi::keyPressEvent(QKeyEvent* event) {
     QMainWindow::keyPressEvent(event);
 }
 
-void frmMdi::closeEvent(QCloseEvent* event) {
-    event->accept();
-    emit closed();
-}
+void frmMdi::closeEvent(QCloseEvent*) { emit closed(); }

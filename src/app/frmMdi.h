@@ -37,15 +37,12 @@ class frmMdi : public QMainWindow {
 
   private:
     void MDIForm_Load();
-    void createStrip();
     void hostChart();
     void followPalette();
     void focusStrip(bool first);
     void placeStrip();
     void placeChart();
-    bool fillsScreen() const;
-    int leftOnScreen() const;
-    int rightEdge() const;
+    QRect placedBy() const;
     int centredLeft(int width) const;
 
     frmDisplay* chart_;

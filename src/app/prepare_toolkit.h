@@ -16,6 +16,5 @@ class Toolkit : public QApplication {
     PressFilter presses_;
 };
 
-// Sets name, font, icon, style, the chart's accessibility, and the use of Qt's own dialogs. To be called
-// once, after the Toolkit is constructed.
+// Sets name, font, icon, style, the chart's accessibility and Qt's own dialogs; to be called once.
 void prepareToolkit();

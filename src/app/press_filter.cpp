@@ -8,14 +8,6 @@
 
 #include "style/platform.h"
 
-namespace {
-
-bool entersText(const QWidget* widget) {
-    return widget != nullptr && widget->testAttribute(Qt::WA_InputMethodEnabled);
-}
-
-}  // namespace
-
 bool PressFilter::discards(QObject* receiver, QEvent* event) {
     auto* window = qobject_cast<QWindow*>(receiver);
     if (window == nullptr) return false;
@@ -37,22 +29,22 @@ bool PressFilter::discards(QObject* receiver, QEvent* event) {
     }
 }
 
-// Qt 6.8 still: isAutoRepeat() is often false under X11, which sends auto-repeat as a release and a press at
-// the same time; and true on Windows for a key whose release went to a window that was being closed. Only the
-// key that was pressed last repeats.
+// Qt 6.8 still: isAutoRepeat() is often false under X11, which repeats by a release and a press at one time;
+// and true on Windows for a key whose release went to a window that was closing. Only the last key repeats.
 bool PressFilter::isRepeated(const QKeyEvent& key) {
     constexpr quint64 atOnce = 2;  // milliseconds
     const int code = key.key();
+    const QWidget* focus = QApplication::focusWidget();
+    const bool writes = focus != nullptr && focus->testAttribute(Qt::WA_InputMethodEnabled);
     const bool enter = code == Qt::Key_Return || code == Qt::Key_Enter;
-    const bool space = code == Qt::Key_Space && !entersText(QApplication::focusWidget());
+    const bool space = code == Qt::Key_Space && !writes;
     const bool follows = code == releasedKey_ && key.timestamp() - released_ <= atOnce;
     const bool repeated = key.isAutoRepeat() || (key.timestamp() != 0 && follows);
     const bool pressedLast = std::exchange(pressedKey_, code) == code;
     return (enter || space) && repeated && pressedLast;
 }
 
-// Where window positions are not known, they still are for a popup relative to its parent. Between other
-// windows only the time counts then.
+// Where positions are not known, only the time counts, except for a popup, which is placed by its parent.
 bool PressFilter::isSecondClick(const QMouseEvent& click, QWindow* window) {
     const QWindow* before = std::exchange(clickedWindow_, window);
     const quint64 time = click.timestamp() - std::exchange(clicked_, click.timestamp());

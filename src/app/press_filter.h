@@ -12,9 +12,8 @@ class QMouseEvent;
 class PressFilter {
   public:
     // Whether the event must not be delivered: the auto-repeat of Enter, and of Space outside text boxes; and
-    // the second click of a double click whose first went to another window, unless the second goes to a
-    // popup. To be called before any event filter: while assistive technology listens, Qt's own filter
-    // replaces each key event by one without a timestamp.
+    // the second click of a double click whose first went to another window, unless a popup gets the second.
+    // To be called before any event filter: Qt's own for assistive technology removes the timestamps of keys.
     bool discards(QObject* receiver, QEvent* event);
 
   private:

@@ -7,25 +7,13 @@
 
 #include "style/message.h"
 
-namespace {
-
-// In folders of this user alone, so that nobody else can hold the lock. QStandardPaths only returns a runtime
-// folder that the user owns; on Windows, which has none, it returns the home folder.
-QStringList lockPaths() {
-    QStringList paths;
+// The lock lies in a folder that only this user has; QStandardPaths returns no other as a runtime folder but,
+// on Windows, the home folder.
+SingleInstance::SingleInstance() {
     for (const auto place : {QStandardPaths::RuntimeLocation, QStandardPaths::AppLocalDataLocation}) {
         const QString folder = QStandardPaths::writableLocation(place);
-        if (!folder.isEmpty() && folder != QDir::homePath() && QDir{}.mkpath(folder))
-            paths += QDir{folder}.filePath(QStringLiteral("palace-lantern.lock"));
-    }
-    return paths;
-}
-
-}  // namespace
-
-SingleInstance::SingleInstance() {
-    for (const QString& path : lockPaths()) {
-        lock_ = std::make_unique<QLockFile>(path);
+        if (folder.isEmpty() || folder == QDir::homePath() || !QDir{}.mkpath(folder)) continue;
+        lock_ = std::make_unique<QLockFile>(QDir{folder}.filePath(QStringLiteral("palace-lantern.lock")));
         if (lock_->tryLock()) return;
         anotherIsRunning_ = lock_->error() == QLockFile::LockFailedError;
         if (anotherIsRunning_) return;

@@ -5,6 +5,7 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <utility>
 
 #include "calendar/picked_date.h"
 
@@ -83,25 +84,18 @@ inline constexpr std::array<Row, yearCount> rows{{
 }};
 // clang-format on
 
-constexpr bool rowsAreSound() {
-    int number = rows.front().begins.front().number;
-    for (std::size_t position = 0; position < rows.size(); ++position) {
-        const Row& row = rows[position];
-        const Begin& first = row.begins.front();
-        if (row.year != firstYear + static_cast<int>(position) || first.day != 1 || first.month != Jan)
-            return false;
-        if (first.number != number && first.number != number + 1) return false;
-        int lastDate = 0;
-        for (const Begin& begin : row.begins) {
-            if (begin.number == 0) continue;
-            const int date = begin.month * 32 + begin.day;
-            if (date <= lastDate || begin.number < 1 || begin.number > 12) return false;
-            lastDate = date;
-            number = begin.number;
+consteval bool datesAscend() {
+    int year = firstYear;
+    for (const Row& row : rows) {
+        if (row.year != year++) return false;
+        int last = 0;
+        for (const auto& [day, month, number] : row.begins) {
+            const int date = month * 32 + day;
+            if (number != 0 && date <= std::exchange(last, date)) return false;
         }
     }
     return true;
 }
-static_assert(rowsAreSound(), "each row begins where the last one ends, and its dates ascend");
+static_assert(datesAscend());
 
 }  // namespace lunar_table

@@ -1,11 +1,11 @@
-// The text of one label of the chart. Its few characters are stored in the object itself, so that casting a
-// chart allocates no memory.
+// The text of a label of the chart, stored in the object itself, so that casting allocates no memory.
 #pragma once
 
 #include <array>
 #include <cassert>
 #include <cstddef>
 #include <cstdint>
+#include <string>
 #include <string_view>
 
 class Caption {
@@ -28,12 +28,8 @@ class Caption {
     std::uint8_t size_ = 0;
 };
 
-// The upper text, a line break (carriage return and line feed) and the lower text: at most 15 characters.
-constexpr Caption stacked(const Caption& upper, const Caption& lower) {
-    std::array<char, 15> both{};
-    std::size_t size = 0;
-    for (const std::string_view part : {upper.text(), std::string_view{"\r\n"}, lower.text()}) {
-        for (const char character : part) both.at(size++) = character;
-    }
-    return std::string_view{both.data(), size};
+// The upper text, CR LF and the lower text: at most 15 characters, which a std::string stores in itself, too.
+inline Caption stacked(const Caption& upper, const Caption& lower) {
+    const std::string both = std::string{upper.text()}.append("\r\n").append(lower.text());
+    return std::string_view{both};
 }

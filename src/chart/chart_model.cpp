@@ -14,12 +14,7 @@ void ChartModel::loadCells() {
 }
 
 void ChartModel::clearCaptions() {
-    for (ChartCell& cell : cells) {
-        for (const CellField& field : cellFields) {
-            if (field.caption != nullptr && field.caption != &ChartCell::lblEarthlyBranches)
-                cell.*field.caption = Caption{};
-        }
-    }
+    for (ChartCell& cell : cells) static_cast<CellCaptions&>(cell) = {};
 }
 
 void ChartModel::place(Star star, CellIndex where) {

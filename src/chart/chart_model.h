@@ -36,13 +36,16 @@ enum class Star : std::uint8_t {
 inline constexpr std::size_t starCount = static_cast<std::size_t>(Star::TianGuan) + 1;
 
 // A palace cell, one field for each of its labels. A caption holds the label's text; a flag says whether the
-// label is shown, which always has the same text.
-struct ChartCell {
-    Caption lblPalace, lblPalaceSteam, lblEarthlyBranches, lblBody;
+// label is shown, which always has the same text. Every chart begins with empty CellCaptions.
+struct CellCaptions {
+    Caption lblPalace, lblPalaceSteam, lblBody;
     Caption lblMajorStars, lblTianFu;
     Caption lblWenChang, lblWenQi, lblDiJie, lblDiKong, lblTaiFu, lblFengGao;
     Caption lblZuoFu, lblYouBi, lblTianYao, lblTianXing;
     Caption lblSanTai, lblBaZuo, lblEnGuang, lblTianGui;
+};
+struct ChartCell : CellCaptions {
+    Caption lblEarthlyBranches;
     bool lblTianYue = false, lblJieShen = false, lblTianWu = false, lblYinSha = false;
     bool lblLuCun = false, lblQingYang = false, lblTuoLuo = false, lblTianKui = false, lblTianYueTwo = false;
     bool lblHuaLu = false, lblHuaQuan = false, lblHuake = false, lblHuaJi = false;
@@ -62,89 +65,72 @@ struct CellField {
 
 struct StarRow {
     Star star;
-    std::string_view name;
     CellField field;
 };
 
-// The table of stars. "Tian Yue" and "Tian Fu" are the texts of two different stars each. Intentional: "Hua
-// ke" has a small k.
+// The table of stars. Most have a label of their own name; the others share one, or Wen Qu's is lblWenQi.
+// "Tian Yue" and "Tian Fu" are the texts of two different stars each. Intentional: "Hua ke" has a small k.
 // clang-format off
-#define CAPTION(star, text, label) {Star::star, #star, {#label, &ChartCell::label, nullptr, text}}
-#define FLAG(star, text, label) {Star::star, #star, {#label, nullptr, &ChartCell::label, text}}
+#define CAPTION_IN(star, text, label) {Star::star, {#label, &ChartCell::label, nullptr, text}}
+#define CAPTION(star, text) CAPTION_IN(star, text, lbl##star)
+#define FLAG(star, text) {Star::star, {"lbl" #star, nullptr, &ChartCell::lbl##star, text}}
 inline constexpr std::array<StarRow, starCount> starTable{{
-    CAPTION(ZiWei, "Zi Wei", lblEarthlyBranches),  // stands above the branch
-    CAPTION(TianJi, "Tian Ji", lblMajorStars),
-    CAPTION(TaiYang, "Tai Yang", lblMajorStars),
-    CAPTION(WuQu, "Wu Qu", lblMajorStars),
-    CAPTION(TianTong, "Tian Tong", lblMajorStars),
-    CAPTION(LianZhen, "Lian Zhen", lblMajorStars),
-    CAPTION(TianFu, "Tian Fu", lblTianFu),
-    CAPTION(TaiYin, "Tai Yin", lblTianFu),
-    CAPTION(TanLang, "Tan Lang", lblTianFu),
-    CAPTION(JuMen, "Ju Men", lblTianFu),
-    CAPTION(TianXiang, "Tian Xiang", lblTianFu),
-    CAPTION(TianLiang, "Tian Liang", lblTianFu),
-    CAPTION(QiSha, "Qi Sha", lblTianFu),
-    CAPTION(PoJun, "Po Jun", lblTianFu),
-    CAPTION(WenChang, "Wen Chang", lblWenChang),
-    CAPTION(WenQu, "Wen Qu", lblWenQi),
-    CAPTION(DiJie, "Di Jie", lblDiJie),
-    CAPTION(DiKong, "Di Kong", lblDiKong),
-    CAPTION(TaiFu, "Tai Fu", lblTaiFu),
-    CAPTION(FengGao, "Feng Gao", lblFengGao),
-    CAPTION(ZuoFu, "Zuo Fu", lblZuoFu),
-    CAPTION(YouBi, "You Bi", lblYouBi),
-    CAPTION(TianYao, "Tian Yao", lblTianYao),
-    CAPTION(TianXing, "Tian Xing", lblTianXing),
-    CAPTION(SanTai, "San Tai", lblSanTai),
-    CAPTION(BaZuo, "Ba Zuo", lblBaZuo),
-    CAPTION(EnGuang, "En Guang", lblEnGuang),
-    CAPTION(TianGui, "Tian Gui", lblTianGui),
-    FLAG(TianYue, "Tian Yue", lblTianYue),
-    FLAG(JieShen, "Jie Shen", lblJieShen),
-    FLAG(TianWu, "Tian Wu", lblTianWu),
-    FLAG(YinSha, "Yin Sha", lblYinSha),
-    FLAG(LuCun, "Lu Cun", lblLuCun),
-    FLAG(QingYang, "Qing Yang", lblQingYang),
-    FLAG(TuoLuo, "Tuo Luo", lblTuoLuo),
-    FLAG(TianKui, "Tian Kui", lblTianKui),
-    FLAG(TianYueTwo, "Tian Yue", lblTianYueTwo),
-    FLAG(HuaLu, "Hua Lu", lblHuaLu),
-    FLAG(HuaQuan, "Hua Quan", lblHuaQuan),
-    FLAG(Huake, "Hua ke", lblHuake),
-    FLAG(HuaJi, "Hua Ji", lblHuaJi),
-    FLAG(TianFutwo, "Tian Fu", lblTianFutwo),
-    FLAG(TianGuan, "Tian Guan", lblTianGuan),
+    CAPTION_IN(ZiWei, "Zi Wei", lblEarthlyBranches),  // stands above the branch
+    CAPTION_IN(TianJi, "Tian Ji", lblMajorStars),
+    CAPTION_IN(TaiYang, "Tai Yang", lblMajorStars),
+    CAPTION_IN(WuQu, "Wu Qu", lblMajorStars),
+    CAPTION_IN(TianTong, "Tian Tong", lblMajorStars),
+    CAPTION_IN(LianZhen, "Lian Zhen", lblMajorStars),
+    CAPTION_IN(TianFu, "Tian Fu", lblTianFu),
+    CAPTION_IN(TaiYin, "Tai Yin", lblTianFu),
+    CAPTION_IN(TanLang, "Tan Lang", lblTianFu),
+    CAPTION_IN(JuMen, "Ju Men", lblTianFu),
+    CAPTION_IN(TianXiang, "Tian Xiang", lblTianFu),
+    CAPTION_IN(TianLiang, "Tian Liang", lblTianFu),
+    CAPTION_IN(QiSha, "Qi Sha", lblTianFu),
+    CAPTION_IN(PoJun, "Po Jun", lblTianFu),
+    CAPTION(WenChang, "Wen Chang"),
+    CAPTION_IN(WenQu, "Wen Qu", lblWenQi),
+    CAPTION(DiJie, "Di Jie"),
+    CAPTION(DiKong, "Di Kong"),
+    CAPTION(TaiFu, "Tai Fu"),
+    CAPTION(FengGao, "Feng Gao"),
+    CAPTION(ZuoFu, "Zuo Fu"),
+    CAPTION(YouBi, "You Bi"),
+    CAPTION(TianYao, "Tian Yao"),
+    CAPTION(TianXing, "Tian Xing"),
+    CAPTION(SanTai, "San Tai"),
+    CAPTION(BaZuo, "Ba Zuo"),
+    CAPTION(EnGuang, "En Guang"),
+    CAPTION(TianGui, "Tian Gui"),
+    FLAG(TianYue, "Tian Yue"),
+    FLAG(JieShen, "Jie Shen"),
+    FLAG(TianWu, "Tian Wu"),
+    FLAG(YinSha, "Yin Sha"),
+    FLAG(LuCun, "Lu Cun"),
+    FLAG(QingYang, "Qing Yang"),
+    FLAG(TuoLuo, "Tuo Luo"),
+    FLAG(TianKui, "Tian Kui"),
+    FLAG(TianYueTwo, "Tian Yue"),
+    FLAG(HuaLu, "Hua Lu"),
+    FLAG(HuaQuan, "Hua Quan"),
+    FLAG(Huake, "Hua ke"),
+    FLAG(HuaJi, "Hua Ji"),
+    FLAG(TianFutwo, "Tian Fu"),
+    FLAG(TianGuan, "Tian Guan"),
 }};
 // clang-format on
+#undef CAPTION_IN
 #undef CAPTION
 #undef FLAG
 
-// Whether the name is the text without its blanks; the second star of the same text has "Two" appended.
-consteval bool isNameFor(std::string_view text, std::string_view name) {
-    for (const char letter : text) {
-        if (letter == ' ') continue;
-        if (!name.starts_with(letter)) return false;
-        name.remove_prefix(1);
-    }
-    return name.empty() || name == "Two" || name == "two";
-}
-
-// Whether text and label match the star's name. The major stars share labels, and Wen Qu's is lblWenQi.
-consteval bool starTableFits() {
+consteval bool starsAreInOrder() {
     for (std::size_t i = 0; i < starCount; ++i) {
-        const auto& [star, name, field] = starTable[i];
-        const std::string_view label = star == Star::ZiWei      ? "EarthlyBranches"
-                                       : star <= Star::LianZhen ? "MajorStars"
-                                       : star <= Star::PoJun    ? "TianFu"
-                                       : star == Star::WenQu    ? "WenQi"
-                                                                : name;
-        if (star != static_cast<Star>(i) || !isNameFor(field.text.text(), name)) return false;
-        if (field.name.substr(3) != label) return false;
+        if (starTable[i].star != static_cast<Star>(i)) return false;
     }
     return true;
 }
-static_assert(starTableFits(), "the stars in their order, each with its own text and its own label");
+static_assert(starsAreInOrder());
 
 constexpr const CellField& fieldOf(Star star) { return starTable[static_cast<std::size_t>(star)].field; }
 

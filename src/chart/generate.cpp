@@ -1,8 +1,7 @@
 #include "chart/generate.h"
 
 #include "calendar/lunar_month.h"
-#include "chart/double_hour.h"
-#include "chart/midnight_rule.h"
+#include "chart/birth_time.h"
 #include "chart/placement.h"
 
 namespace {

@@ -6,23 +6,10 @@ namespace {
 constexpr std::array<Caption, 10> stemNames{"Bing", "Ding", "Wu",  "Ji",  "Geng",
                                             "Xin",  "Ren",  "Gui", "Jia", "Yi"};
 
-// By the last digit of the year: the year's stem, and the stem of cell 0 as an index into stemNames.
-struct YearStem {
-    Caption name;
-    int firstPalaceStem;
-};
-constexpr std::array<YearStem, 10> yearStems{{
-    {"Geng", 2},  // 0
-    {"Xin", 4},   // 1
-    {"Ren", 6},   // 2
-    {"Gui", 8},   // 3
-    {"Jia", 0},   // 4
-    {"Yi", 2},    // 5
-    {"Bing", 4},  // 6
-    {"Ding", 6},  // 7
-    {"Wu", 8},    // 8
-    {"Ji", 0},    // 9
-}};
+// By the last digit of the year, 0 to 9: the year's stem, and the stem of cell 0 as an index into stemNames.
+constexpr std::array<Caption, 10> yearStems{"Geng", "Xin",  "Ren",  "Gui", "Jia",
+                                            "Yi",   "Bing", "Ding", "Wu",  "Ji"};
+constexpr std::array<int, 10> firstPalaceStems{2, 4, 6, 8, 0, 2, 4, 6, 8, 0};
 
 // The bureau's element, by the pair of cells that holds the Life Palace and by the year's last digit; the
 // digits 5 to 9 repeat the columns of 0 to 4.
@@ -37,10 +24,6 @@ constexpr std::array<std::array<Caption, 5>, 6> elements{{
     {"Fire",  "Earth", "Wood",  "Metal", "Water"},  // Zi, Chou
 }};
 // clang-format on
-
-const YearStem& yearStemOf(const ChartModel& chart) {
-    return yearStems[static_cast<std::size_t>(chart.yearDigit)];
-}
 
 }  // namespace
 
@@ -59,10 +42,10 @@ void placeBodyPalace(ChartModel& chart) {
 }
 
 void placePalaceStems(ChartModel& chart) {
-    const YearStem& stem = yearStemOf(chart);
-    chart.yearStem = stem.name;
+    const auto digit = static_cast<std::size_t>(chart.yearDigit);
+    chart.yearStem = yearStems[digit];
     for (const CellIndex cell : allCells) {
-        const auto number = static_cast<std::size_t>((stem.firstPalaceStem + cell.value()) % 10);
+        const auto number = static_cast<std::size_t>(firstPalaceStems[digit] + cell.value()) % 10;
         chart.cell(cell).lblPalaceSteam = stemNames[number];
     }
 }

@@ -4,8 +4,7 @@
 #include <QScrollArea>
 
 #include "display/chart_square.h"
-#include "display/lbl_cover.h"
-#include "style/controls.h"
+#include "style/text.h"
 
 namespace {
 
@@ -44,14 +43,6 @@ QAccessibleInterface* createInterface(const QString&, QObject* object) {
 // The caption without the element or star above it.
 QString lastLine(const Caption& caption) { return latin(caption.text()).section(QLatin1Char('\n'), -1); }
 
-QStringList starsIn(const ChartCell& cell) {
-    QStringList stars;
-    for (const StarRow& row : starTable) {
-        if (cell.holds(row.star)) stars += latin(row.field.text.text());
-    }
-    return stars;
-}
-
 }  // namespace
 
 QString spokenCell(const ChartModel& chart, CellIndex index) {
@@ -62,7 +53,10 @@ QString spokenCell(const ChartModel& chart, CellIndex index) {
         QStringLiteral("%1, %2, stem %3")
             .arg(palace, latin(branchNames[index.index()].text()), lastLine(cell.lblPalaceSteam));
     if (index == chart.lifePalace) sentence += QStringLiteral(", element ") + latin(chart.lblElement.text());
-    const QStringList stars = starsIn(cell);
+    QStringList stars;
+    for (const StarRow& row : starTable) {
+        if (cell.holds(row.star)) stars += latin(row.field.text.text());
+    }
     sentence += stars.isEmpty() ? QStringLiteral(": no stars")
                                 : QStringLiteral(": ") + stars.join(QStringLiteral(", "));
     if (!cell.lblBody.empty()) sentence += QStringLiteral("; Body Palace");

@@ -32,11 +32,11 @@ ChartScale ChartScale::largestFor(const QSize& room, double devicePixelRatio) {
 
 int ChartScale::pixels(int twips) const {
     return static_cast<int>(
-        std::ceil(look::pixels(static_cast<double>(twips) * minorPixels_ / naturalScale.minorPixels())));
+        std::ceil(look::pixels(static_cast<double>(twips) * minorPixels_ / naturalScale.minorPixels_)));
 }
 
 int ChartScale::fontPixels(int pixelSize) const {
-    return pixelSize * minorPixels_ / naturalScale.minorPixels();
+    return pixelSize * minorPixels_ / naturalScale.minorPixels_;
 }
 
 QRect ChartScale::cellFrame(CellIndex cell) const {

@@ -39,7 +39,6 @@ class ChartScale {
     // this device pixel ratio. If there is none, a legible scale at which the chart scrolls.
     static ChartScale largestFor(const QSize& room, double devicePixelRatio);
 
-    constexpr int minorPixels() const { return minorPixels_; }
     int pixels(int twips) const;            // a length or a place, in pixels
     int fontPixels(int pixelSize) const;    // a font's size, in pixels
     QRect cellFrame(CellIndex cell) const;  // one pixel into the next cells, so that borders coincide

@@ -4,8 +4,6 @@
 
 #include "style/look.h"
 
-ChartSquare::ChartSquare(QWidget* parent) : QWidget(parent) {}
-
 // One pixel larger than the square: at a device pixel ratio of 1.5, the last borders reach beyond it.
 void ChartSquare::setScale(ChartScale scale) {
     scale_ = scale;
@@ -31,4 +29,23 @@ void ChartSquare::paintEvent(QPaintEvent*) {
     const QPoint rule =
         centre.topLeft() + QPoint{scale_.pixels(centreRule.x1()), scale_.pixels(centreRule.y1())};
     painter.drawLine(rule, rule + QPoint{scale_.pixels(centreRule.dx()), 0});
+}
+
+LblCover::LblCover(CellIndex cell, QWidget* parent) : PressArea(parent) {
+    named(this, "lblCover(" + std::to_string(cell.value()) + ")");
+    setFocusPolicy(cell == CellIndex{0} ? Qt::StrongFocus : Qt::ClickFocus);
+    setCursor(Qt::PointingHandCursor);
+}
+
+// The focus frame is thinner at the top, where text begins right below the border.
+void LblCover::paintEvent(QPaintEvent*) {
+    if (!marked_) return;
+    QPainter painter{this};
+    QColor tint = look::blue;
+    tint.setAlpha(14);
+    if (underMouse()) painter.fillRect(rect().adjusted(1, 1, -1, -1), tint);
+    if (!hasFocus()) return;
+    painter.setPen(look::blue);
+    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    painter.drawRect(rect().adjusted(1, 0, -2, -2));
 }

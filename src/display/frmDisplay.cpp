@@ -1,6 +1,6 @@
 #include "display/frmDisplay.h"
 
-#include <QEvent>
+#include <QKeyEvent>
 #include <QPainter>
 #include <QScrollArea>
 #include <QScrollBar>
@@ -9,7 +9,6 @@
 
 #include "display/chart_accessibility.h"
 #include "display/chart_square.h"
-#include "display/lbl_cover.h"
 #include "help/help_menu.h"
 #include "style/controls.h"
 #include "style/look.h"
@@ -35,8 +34,7 @@ QFont scaledFont(const ChartScale& scale, LabelKind kind) {
 
 bool isOneLine(std::size_t label) { return longestTextOf(label).find('\n') == std::string_view::npos; }
 
-// The size of a text in a font. The lines of a text are each rounded up to whole pixels; a single line is
-// not, so that it does not overlap the label below.
+// Each of several lines is rounded up to whole pixels; a single one is not: it would overlap the next label.
 QSize textSize(const QFont& font, std::string_view text) {
     const QFontMetricsF metrics{font};
     const QStringList lines = latin(text).split(QStringLiteral("\r\n"));
@@ -47,8 +45,7 @@ QSize textSize(const QFont& font, std::string_view text) {
     return {qCeil(width) + 1, height};
 }
 
-// One line of text that a person has entered. It is elided, and control characters are drawn as blanks;
-// text() returns the whole.
+// A line that a person has entered: drawn elided and without control characters; text() is the whole.
 class ElidedLabel : public QLabel {
   public:
     using QLabel::QLabel;
@@ -92,11 +89,6 @@ frmDisplay::frmDisplay(const ChartModel& chart, const BirthEntry& entry) {
     rows->addWidget(scroll_);
 }
 
-// A cover that loses the focus while it is destroyed must not call the form.
-frmDisplay::~frmDisplay() {
-    for (LblCover* cover : lblCover) cover->disconnect(this);
-}
-
 void frmDisplay::createGround() {
     gfg = named(new QWidget, "gfg");
     QPalette papers;
@@ -113,7 +105,7 @@ void frmDisplay::createGround() {
 
 void frmDisplay::createMenus() {
     menus_ = newMenuBar(this);
-    auto* mnuFile = addMenu(menus_, "mnuFile", "&File");
+    auto* mnuFile = named(menus_->addMenu(QStringLiteral("&File")), "mnuFile");
     addEntry(mnuFile, "mnuShowAll", "Show All", this, &frmDisplay::showAllRequested);
     addEntry(mnuFile, "mnuSavejpg", "Save as JPG", this, &frmDisplay::savePictureRequested);
     mnuFile->addSeparator();
@@ -161,12 +153,7 @@ void frmDisplay::createCover(CellIndex cell, const ChartModel& chart) {
     cover->setAccessibleName(spokenCell(chart, cell));
     connectControl(cover, &LblCover::clicked, this,
                    [cell](frmDisplay* form) { emit form->palaceClicked(cell.value()); });
-    connect(cover, &LblCover::pointerChanged, this, &frmDisplay::showHint);
-    connect(cover, &LblCover::focusChanged, this,
-            [this, cover](Qt::FocusReason reason) { followFocus(cover, reason); });
-    connect(cover, &LblCover::stepWanted, this, [this, cell](QPoint step) {
-        lblCover[neighbour(cell, step).index()]->setFocus(Qt::OtherFocusReason);
-    });
+    cover->installEventFilter(this);
 }
 
 void frmDisplay::createCentre() {
@@ -221,10 +208,6 @@ void frmDisplay::applyScale(ChartScale scale) {
 
 void frmDisplay::placeCells() {
     gfg->setFont(scaledFont(scale_, LabelKind::minor));
-    for (const CellIndex cell : allCells) {
-        Square[cell.index()]->setGeometry(scale_.cellFrame(cell));
-        lblCover[cell.index()]->setGeometry(scale_.cellFrame(cell));
-    }
     for (std::size_t i = 0; i < cellLabels.size(); ++i) {
         const CellLabel& label = cellLabels[i];
         const QFont font = scaledFont(scale_, label.kind);
@@ -237,6 +220,8 @@ void frmDisplay::placeCells() {
         }
     }
     for (const CellIndex cell : allCells) {
+        Square[cell.index()]->setGeometry(scale_.cellFrame(cell));
+        lblCover[cell.index()]->setGeometry(scale_.cellFrame(cell));
         QLabel* branch = labels_[cell.index()][rowOf(cellLabels, "lblEarthlyBranches")];
         if (holdsZiWei_[cell.index()]) branch->setFont(scaledFont(scale_, LabelKind::ziWei));
     }
@@ -276,9 +261,39 @@ void frmDisplay::showEvent(QShowEvent* event) {
 }
 
 bool frmDisplay::eventFilter(QObject* watched, QEvent* event) {
+    if (auto* cover = qobject_cast<LblCover*>(watched)) return coverEvent(cover, event);
     if (event->type() != QEvent::HoverMove) return QWidget::eventFilter(watched, event);
     keysLead_ = false;
     showHint();
+    return true;
+}
+
+bool frmDisplay::coverEvent(LblCover* cover, QEvent* event) {
+    switch (event->type()) {
+        case QEvent::Enter:
+        case QEvent::Leave:
+            cover->update();
+            showHint();
+            return false;
+        case QEvent::FocusIn:
+        case QEvent::FocusOut:
+            followFocus(cover, static_cast<QFocusEvent*>(event)->reason());
+            return false;
+        case QEvent::KeyPress:
+            return moveFocus(cover, static_cast<QKeyEvent*>(event)->key());
+        default:
+            return false;
+    }
+}
+
+// Whether the key is an arrow key, which moves the focus to the next cell.
+bool frmDisplay::moveFocus(const LblCover* from, int key) {
+    const QPoint step{(key == Qt::Key_Right) - (key == Qt::Key_Left),
+                      (key == Qt::Key_Down) - (key == Qt::Key_Up)};
+    if (step.isNull()) return false;
+    const auto cell = std::ranges::find(lblCover, from) - lblCover.begin();
+    const CellIndex next = neighbour(CellIndex{static_cast<int>(cell)}, step);
+    lblCover[next.index()]->setFocus(Qt::OtherFocusReason);
     return true;
 }
 

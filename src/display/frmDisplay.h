@@ -20,7 +20,6 @@ class frmDisplay : public QWidget {
   public:
     // The entry is that of the input form, with the date that the midnight rule may have changed.
     frmDisplay(const ChartModel& chart, const BirthEntry& entry);
-    ~frmDisplay() override;
 
     // Scales the chart to the room, or lets it scroll where it would be illegible. Returns the size that the
     // window then needs, which is never larger than the room.
@@ -60,6 +59,8 @@ class frmDisplay : public QWidget {
     void placeCells();
     void placeCentre();
     void showHint();
+    bool coverEvent(LblCover* cover, QEvent* event);
+    bool moveFocus(const LblCover* from, int key);
     void followFocus(LblCover* cover, Qt::FocusReason reason);
 
     QMenuBar* menus_;

@@ -77,7 +77,7 @@ void frmPalaceAnalysis::createButtons(QVBoxLayout* rows) {
 
 void frmPalaceAnalysis::createMenus() {
     QMenuBar* menus = newMenuBar(this);
-    auto* mnuFile = addMenu(menus, "mnuFile", "&File");
+    auto* mnuFile = named(menus->addMenu(QStringLiteral("&File")), "mnuFile");
     addEntry(mnuFile, "mnuOk", "&Ok", this, &QDialog::accept);
     menus->addMenu(newHelpMenu(this));
     layout()->setMenuBar(menus);

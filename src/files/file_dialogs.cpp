@@ -5,6 +5,7 @@
 #include <QLineEdit>
 #include <QScreen>
 #include <QTemporaryFile>
+#include <climits>
 
 #include "files/picture_name.h"
 #include "style/controls.h"
@@ -18,10 +19,37 @@ struct Request {
     QFileDialog::AcceptMode mode;
     const char* title;
     const char* filter;
-    QString (*completed)(const QString& path);   // the path to use for the one that was typed
-    QString (*obstacle)(const QFileInfo& file);  // why the file can't be used; empty where it can
-    bool asksBeforeReplacing = false;
+    std::string_view extension;  // for a name that is not found or, to save, has no dot
+    bool replaces = false;       // an existing file, after a question
 };
+
+constexpr Request chartToOpen{QFileDialog::AcceptOpen, "Select the source file", "Palace Lantern (*.plf)",
+                              ".plf"};
+// Intentional: the default extension is "txt".
+constexpr Request chartToSave{QFileDialog::AcceptSave, "Palace Lantern", "Palace Lantern (*.plf)", ".txt",
+                              true};
+constexpr Request pictureToSave{QFileDialog::AcceptSave, "Save as JPG", "JPEG Image (*.jpg)",
+                                pictureExtension};
+
+// Why the file can't be used; empty where it can.
+QString obstacleTo(const Request& request, const QFileInfo& file) {
+    if (request.mode == QFileDialog::AcceptOpen)
+        return file.exists() ? QString{} : QStringLiteral("There is no such file.");
+    if (request.replaces && file.isFile())
+        return file.isWritable() ? QString{} : QStringLiteral("This file is read-only.");
+    const QFileInfo folder{file.absolutePath()};
+    if (!folder.isDir()) return QStringLiteral("The folder does not exist.");
+    if (file.isDir()) return QStringLiteral("This is the name of a folder.");
+    const auto length = static_cast<std::size_t>(file.fileName().toUtf8().size());
+    if (length > longestFileName || file.absoluteFilePath().size() >= PATH_MAX)
+        return QStringLiteral("The name is too long.");
+    if (hasForbiddenCharacter(file.fileName()))
+        return QStringLiteral("A file name can't contain any of these characters:  < > : \" | ? *");
+    // Tried out: what QFileInfo tells of permissions is not enough on Windows.
+    return QTemporaryFile{folder.filePath() + QStringLiteral("/XXXXXX")}.open()
+               ? QString{}
+               : QStringLiteral("Nothing can be saved in this folder.");
+}
 
 class FileDialog : public QFileDialog {
   public:
@@ -48,13 +76,16 @@ class FileDialog : public QFileDialog {
         const auto* box = findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
         const bool quoted = box != nullptr && box->text().contains(QLatin1Char('"'));
         const QString typed = quoted ? directory().absoluteFilePath(box->text()) : selectedFiles().value(0);
-        if (QFileInfo{typed}.isDir()) return QFileDialog::accept();  // goes there
-        path_ = request_.completed(typed);
+        const QFileInfo given{typed};
+        if (given.isDir()) return QFileDialog::accept();  // goes there
+        const bool opens = request_.mode == AcceptOpen;
+        const bool complete = opens ? given.exists() : given.fileName().contains(QLatin1Char('.'));
+        path_ = complete ? typed : typed + latin(request_.extension);
         const QFileInfo file{path_};
-        const QString obstacle = request_.obstacle(file);
+        const QString obstacle = obstacleTo(request_, file);
         if (!obstacle.isEmpty()) return showMessage(this, QMessageBox::Critical, obstacle);
         const QString question = QStringLiteral("%1 already exists.\nDo you want to replace it?");
-        const bool asks = request_.asksBeforeReplacing && file.exists();
+        const bool asks = request_.replaces && file.exists();
         if (!asks || askWhether(this, question.arg(file.fileName()))) QDialog::accept();
     }
 
@@ -62,48 +93,6 @@ class FileDialog : public QFileDialog {
     const Request& request_;
     QString path_;
 };
-
-// The extension is for a name without any dot.
-QString withExtension(const QString& path, const QString& extension) {
-    return QFileInfo{path}.fileName().contains(QLatin1Char('.')) ? path : path + extension;
-}
-
-QString obstacleToNewFile(const QFileInfo& file) {
-    const QFileInfo folder{file.absolutePath()};
-    if (!folder.isDir()) return QStringLiteral("The folder does not exist.");
-    if (file.isDir()) return QStringLiteral("This is the name of a folder.");
-    const auto length = static_cast<std::size_t>(file.fileName().toUtf8().size());
-    if (length > longestFileName) return QStringLiteral("The name is too long.");
-    if (hasForbiddenCharacter(file.fileName()))
-        return QStringLiteral("A file name can't contain any of these characters:  < > : \" | ? *");
-    // Tried out: what QFileInfo tells of permissions is not enough on Windows.
-    return QTemporaryFile{folder.filePath() + QStringLiteral("/XXXXXX")}.open()
-               ? QString{}
-               : QStringLiteral("Nothing can be saved in this folder.");
-}
-
-const Request chartToOpen{
-    QFileDialog::AcceptOpen, "Select the source file", "Palace Lantern (*.plf)",
-    [](const QString& path) { return QFileInfo::exists(path) ? path : path + QStringLiteral(".plf"); },
-    [](const QFileInfo& file) {
-        return file.exists() ? QString{} : QStringLiteral("There is no such file.");
-    }};
-
-// Intentional: the default extension is "txt".
-const Request chartToSave{QFileDialog::AcceptSave,
-                          "Palace Lantern",
-                          "Palace Lantern (*.plf)",
-                          [](const QString& path) { return withExtension(path, QStringLiteral(".txt")); },
-                          [](const QFileInfo& file) {
-                              if (!file.isFile()) return obstacleToNewFile(file);
-                              return file.isWritable() ? QString{}
-                                                       : QStringLiteral("This file is read-only.");
-                          },
-                          true};
-
-const Request pictureToSave{QFileDialog::AcceptSave, "Save as JPG", "JPEG Image (*.jpg)",
-                            [](const QString& path) { return withExtension(path, latin(pictureExtension)); },
-                            obstacleToNewFile};
 
 }  // namespace
 

@@ -12,6 +12,5 @@ QString askForChartFile(QWidget* parent);
 // A file that can be written; asks before one is overwritten.
 QString askWhereToSaveChart(QWidget* parent);
 
-// A file in a folder that takes new ones. A name that is taken is not refused: the picture's naming rule
-// looks for a free one.
+// A file in a folder that takes new ones; not refused if taken, because the naming rule looks for a free one.
 QString askForPictureName(QWidget* parent);

@@ -9,7 +9,6 @@
 #include <QTemporaryFile>
 #include <memory>
 
-#include "files/file_dialogs.h"
 #include "files/picture_name.h"
 #include "style/message.h"
 
@@ -35,12 +34,6 @@ PictureName nameFor(const QString& chosenPath) {
          QDateTime::currentDateTime().toString(QStringLiteral("yyyyMMddhhmmsszzz")).toStdString()});
 }
 
-void tellTooManyCopies(const QString& fileName, QWidget* parent) {
-    showMessage(parent, QMessageBox::Critical,
-                QStringLiteral("There are too many Copies of this file  ") + fileName,
-                QStringLiteral(" UNABLE  TO  CREATE  NEW  FILE") + fileName);
-}
-
 // Creates the bitmap beside the picture; under a temporary name if its own is taken or is the picture's.
 std::unique_ptr<QFile> newBitmap(const PictureName& picture) {
     const std::string path = bitmapPathFor(picture.path());
@@ -59,15 +52,13 @@ void convert(const QString& converter, const QString& bitmapPath, const std::str
 
 }  // namespace
 
-void exportPicture(const QPixmap& picture, const QString& converter, QWidget* parent) {
-    const QString chosen = askForPictureName(parent);
-    if (!chosen.isEmpty()) savePictureAs(picture, chosen, converter, parent);
-}
-
 void savePictureAs(const QPixmap& picture, const QString& chosenPath, const QString& converter,
                    QWidget* parent) {
     const PictureName name = nameFor(chosenPath);
-    if (name.tooManyCopies) tellTooManyCopies(decoded(name.name), parent);
+    if (name.tooManyCopies)
+        showMessage(parent, QMessageBox::Critical,
+                    QStringLiteral("There are too many Copies of this file  ") + decoded(name.name),
+                    QStringLiteral(" UNABLE  TO  CREATE  NEW  FILE") + decoded(name.name));
     const std::unique_ptr<QFile> bitmap = newBitmap(name);
     if (bitmap == nullptr) return;
     const auto guard = qScopeGuard([&bitmap] { bitmap->remove(); });

@@ -6,9 +6,6 @@
 
 class QWidget;
 
-// Asks for a path and saves the picture there.
-void exportPicture(const QPixmap& picture, const QString& converter, QWidget* parent);
-
 // Saves the picture at the chosen path, or under the free name that uniquePictureName() makes of it. A
 // failure is not reported, and leaves neither a temporary file nor part of a picture.
 void savePictureAs(const QPixmap& picture, const QString& chosenPath, const QString& converter,

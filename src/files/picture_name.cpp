@@ -54,9 +54,8 @@ PictureName uniquePictureName(std::string_view folder, std::string_view name,
                               const PictureSurroundings& around) {
     const std::string tidy = tidyFolder(folder, around);
     const std::string wanted = pictureNameFor(name, around);
-    if (!around.exists(tidy + wanted)) return {tidy, wanted, false};
-    for (int counter = 1; counter <= lastCounter; ++counter) {
-        const std::string candidate = counted(wanted, counter);
+    for (int counter = 0; counter <= lastCounter; ++counter) {
+        const std::string candidate = counter == 0 ? wanted : counted(wanted, counter);
         if (!around.exists(tidy + candidate)) return {tidy, candidate, false};
     }
     return {tidy, wanted, true};

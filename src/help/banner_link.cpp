@@ -2,7 +2,7 @@
 
 #include <QPainter>
 
-#include "help/pages.h"
+#include "help/help_menu.h"
 #include "style/desktop_style.h"
 #include "style/look.h"
 

@@ -4,28 +4,18 @@
 #include <QLabel>
 #include <QShortcut>
 
-#include "help/pages.h"
+#include "help/help_menu.h"
 #include "style/controls.h"
 #include "style/look.h"
-#include "style/mark.h"
-
-namespace {
-
-QLabel* plainLabel(const QString& text, const char* name) {
-    auto* label = named(new QLabel{text}, name);
-    label->setTextFormat(Qt::PlainText);
-    return label;
-}
-
-}  // namespace
 
 frmAbout::frmAbout(QWidget* parent) : QDialog(parent) {
     named(this, "frmAbout");
     setWindowTitle(QStringLiteral("About Palace Lantern"));
-    QLabel* product = plainLabel(look::productName(), "lblProduct");
+    auto* product = named(new QLabel{look::productName()}, "lblProduct");
     product->setFont(look::titleFont());
-    QLabel* purpose = plainLabel(
-        QStringLiteral("Casts a Zi Wei Dou Shu birth chart and explains it in plain English."), "lblPurpose");
+    auto* version = named(new QLabel{QStringLiteral("Version " PALACE_LANTERN_VERSION)}, "lblVersion");
+    const auto words = QStringLiteral("Casts a Zi Wei Dou Shu birth chart and explains it in plain English.");
+    auto* purpose = named(new QLabel{words}, "lblPurpose");
     purpose->setWordWrap(true);
     purpose->setMinimumWidth(260);
     QPushButton* cmdOk = newButton("cmdOk", "&OK", this, &QDialog::accept);
@@ -38,11 +28,9 @@ frmAbout::frmAbout(QWidget* parent) : QDialog(parent) {
     grid->setSizeConstraint(QLayout::SetFixedSize);
     grid->setContentsMargins(18, 18, 18, 14);
     grid->setHorizontalSpacing(16);
-    grid->addWidget(new Mark{64}, 0, 0, 3, 1, Qt::AlignTop);
+    grid->addWidget(look::newMark(64), 0, 0, 3, 1, Qt::AlignTop);
     grid->addWidget(product, 0, 1);
-    grid->addWidget(
-        plainLabel(QStringLiteral("Version %1").arg(QStringLiteral(PALACE_LANTERN_VERSION)), "lblVersion"), 1,
-        1);
+    grid->addWidget(version, 1, 1);
     grid->addWidget(purpose, 2, 1);
     grid->addWidget(cmdOk, 3, 1, Qt::AlignRight);
     cmdOk->setDefault(true);

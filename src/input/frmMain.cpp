@@ -1,9 +1,11 @@
 #include "input/frmMain.h"
 
-#include <QCloseEvent>
+#include <QComboBox>
 #include <QGridLayout>
 #include <QGroupBox>
+#include <QKeyEvent>
 #include <QLabel>
+#include <QListView>
 #include <QMimeData>
 #include <QScreen>
 #include <QScrollArea>
@@ -13,15 +15,22 @@
 #include "files/chart_file.h"
 #include "help/banner_link.h"
 #include "help/help_menu.h"
-#include "input/drop_down_list.h"
 #include "input/input_check.h"
 #include "input/name_box.h"
 #include "style/controls.h"
 #include "style/look.h"
-#include "style/mark.h"
 #include "style/message.h"
 
 namespace {
+
+// Until Qt 6.8: a hidden QListView sends accessibility focus events, such as when a key changes the entry.
+class EntryView : public QListView {
+  protected:
+    void currentChanged(const QModelIndex& current, const QModelIndex& previous) override {
+        isVisible() ? QListView::currentChanged(current, previous)
+                    : QAbstractItemView::currentChanged(current, previous);
+    }
+};
 
 void fillNumbers(QComboBox* list, int first, int count) {
     QStringList numbers;
@@ -29,15 +38,9 @@ void fillNumbers(QComboBox* list, int first, int count) {
     list->addItems(numbers);
 }
 
-void selectText(QComboBox* list, const std::string& entry) {
-    const int index = list->findText(latin(entry), Qt::MatchExactly | Qt::MatchCaseSensitive);
-    if (index >= 0) list->setCurrentIndex(index);
-}
-
 // A label that is also the accessible name of its control.
 QLabel* caption(const char* words, QWidget* control = nullptr) {
     auto* label = new QLabel{latin(words)};
-    label->setTextFormat(Qt::PlainText);
     label->setBuddy(control);
     return label;
 }
@@ -86,8 +89,7 @@ void frmMain::createControls() {
     rows->addStretch();
     followFont();
 
-    // The form scrolls on a screen that is too small for it. In a window that is too wide, as in a tiling
-    // window manager, the content is centred.
+    // The form scrolls on a screen that is too small, and is centred in a window that is tiled and too wide.
     scroll_ = new QScrollArea;
     scroll_->setWidget(content);
     scroll_->setWidgetResizable(true);
@@ -106,21 +108,29 @@ QWidget* frmMain::createBanner() {
     auto* banner = new QWidget;
     auto* row = new QHBoxLayout{banner};
     row->setContentsMargins(0, 0, 0, 0);
-    row->addWidget(new Mark{48});
+    row->addWidget(look::newMark(48));
     row->addWidget(lblBanner = new BannerLink{look::titleFont(), this, banner});
     row->addStretch();
     return banner;
+}
+
+QComboBox* frmMain::createList(const char* name) {
+    auto* list = named(new QComboBox, name);
+    list->setFocusPolicy(Qt::StrongFocus);
+    list->setMaxVisibleItems(16);
+    list->installEventFilter(this);
+    return list;
 }
 
 QWidget* frmMain::createDetails() {
     txtName = named(new NameBox, "txtName");
     // Queued, so that no modal message opens while the box handles an event.
     connectControl(txtName, &NameBox::rejected, this, &frmMain::txtName_KeyPress, Qt::QueuedConnection);
-    cmbDate = named(new DropDownList, "cmbDate");
-    cmbMonth = named(new DropDownList, "cmbMonth");
-    cmbYear = named(new DropDownList, "cmbYear");
-    cmbHour = named(new DropDownList, "cmbHour");
-    cmbMinute = named(new DropDownList, "cmbMinute");
+    cmbDate = createList("cmbDate");
+    cmbMonth = createList("cmbMonth");
+    cmbYear = createList("cmbYear");
+    cmbHour = createList("cmbHour");
+    cmbMinute = createList("cmbMinute");
 
     auto* details = new QGroupBox{QStringLiteral("Enter your Details")};
     details->installEventFilter(this);
@@ -159,7 +169,7 @@ QWidget* frmMain::createButtons() {
 
 void frmMain::createMenus() {
     QMenuBar* menus = newMenuBar(this);
-    auto* mnuFile = addMenu(menus, "mnuFile", "&File");
+    auto* mnuFile = named(menus->addMenu(QStringLiteral("&File")), "mnuFile");
     addEntry(mnuFile, "mnuGenerateChart", "Get My &Palace Lantern Chart", this,
              &frmMain::cmdGenerateChart_Click);
     // Intentional: "Previoysly".
@@ -191,9 +201,9 @@ void frmMain::showInPlaceOf(const QWidget& frame) {
 
 void frmMain::fillIn(const ChartFileValues& values) {
     txtName->setName(latin(values.name));
-    selectText(cmbDate, values.day);
-    selectText(cmbMonth, values.month);
-    selectText(cmbYear, values.year);
+    cmbDate->setCurrentText(latin(values.day));
+    cmbMonth->setCurrentText(latin(values.month));
+    cmbYear->setCurrentText(latin(values.year));
 }
 
 void frmMain::askForTime() {
@@ -201,10 +211,10 @@ void frmMain::askForTime() {
 }
 
 bool frmMain::passesCheck(const BirthEntry& birth) {
-    const auto failure = checkBirthEntry(birth);
-    if (!failure) return true;
-    showMessage(this, QMessageBox::Information, latin(failure->message));
-    (failure->field == InputField::txtName ? static_cast<QWidget*>(txtName) : cmbDate)->setFocus();
+    const auto message = checkBirthEntry(birth);
+    if (!message) return true;
+    showMessage(this, QMessageBox::Information, latin(*message));
+    birth.name.empty() ? txtName->setFocus() : cmbDate->setFocus();
     return false;
 }
 
@@ -227,10 +237,8 @@ void frmMain::clearEntry() {
     txtName->setFocus();
 }
 
-void frmMain::closeEvent(QCloseEvent* event) {
-    event->accept();
-    emit closed();
-}
+// Not by QDialog, which would call reject().
+void frmMain::closeEvent(QCloseEvent*) { emit closed(); }
 
 // Accepts one chart file while no dialog is open. Always as a copy: after a move, the sender deletes it.
 void frmMain::considerDrop(QDropEvent* event) {
@@ -251,11 +259,20 @@ void frmMain::dropEvent(QDropEvent* event) {
     QMetaObject::invokeMethod(this, open, Qt::QueuedConnection);
 }
 
-// Qt 6.8 still: where the desktop lets Enter press buttons, QGroupBox accepts it, and Enter in the name box
-// would not reach the default button.
+// A list handles the wheel only while it has the focus. Qt 6.8 still: where the desktop lets Enter press
+// buttons, QComboBox and QGroupBox handle it, too, and it would not reach the default button.
 bool frmMain::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() != QEvent::KeyPress && event->type() != QEvent::KeyRelease)
-        return QDialog::eventFilter(watched, event);
+    const bool pressed = event->type() == QEvent::KeyPress;
+    bool ignored = pressed || event->type() == QEvent::KeyRelease;
+    if (auto* list = qobject_cast<QComboBox*>(watched)) {
+        const int key = pressed ? static_cast<QKeyEvent*>(event)->key() : 0;
+        const bool enter = key == Qt::Key_Return || key == Qt::Key_Enter;
+        ignored = enter || (event->type() == QEvent::Wheel && !list->hasFocus());
+        // Only now: five more views would slow the start down.
+        if (pressed && !enter && dynamic_cast<EntryView*>(list->view()) == nullptr)
+            list->setView(new EntryView);
+    }
+    if (!ignored) return QDialog::eventFilter(watched, event);
     event->ignore();
     return true;
 }

@@ -62,6 +62,7 @@ class frmMain : public QDialog {
     void followFont();
     void createControls();
     void createMenus();
+    QComboBox* createList(const char* name);
     QWidget* createBanner();
     QWidget* createDetails();
     QWidget* createButtons();

@@ -1,11 +1,21 @@
 #include "input/input_check.h"
 
-std::optional<InputFailure> checkBirthEntry(const BirthEntry& entry) {
-    if (entry.name.empty()) return InputFailure{"Please Enter Your Name !", InputField::txtName};
+std::optional<std::string_view> checkBirthEntry(const BirthEntry& entry) {
+    if (entry.name.empty()) return "Please Enter Your Name !";
     if (entry.date.exists()) return std::nullopt;
     // Intentional: the doubled "of" in the message for the other months.
-    const bool february = entry.date.month() == 2;
-    return InputFailure{
-        february ? "Please Enter Correct Date Of Birth !" : "Please Enter Correct Date Of of Birth !",
-        InputField::cmbDate};
+    return entry.date.month() == 2 ? "Please Enter Correct Date Of Birth !"
+                                   : "Please Enter Correct Date Of of Birth !";
+}
+
+std::u16string filterName(std::u16string_view text) {
+    std::u16string accepted;
+    for (const char16_t character : text) {
+        if (character >= u'a' && character <= u'z') {
+            accepted += static_cast<char16_t>(character - 32);
+        } else if ((character >= u'A' && character <= u'Z') || character == u' ') {
+            accepted += character;
+        }
+    }
+    return accepted;
 }

@@ -1,18 +1,14 @@
-// The check of the birth data before a chart is cast.
+// What is checked of the birth data before a chart is cast, and what the name box lets through.
 #pragma once
 
 #include <optional>
+#include <string>
 #include <string_view>
 
 #include "chart/birth_entry.h"
 
-enum class InputField { txtName, cmbDate };
+// Returns the message of the first failure: an empty name (blanks will do), or a date that does not exist.
+std::optional<std::string_view> checkBirthEntry(const BirthEntry& entry);
 
-// The message to show, and the field that then gets the focus.
-struct InputFailure {
-    std::string_view message;
-    InputField field;
-};
-
-// Returns the first failure: the name is empty (blanks are enough), or the date does not exist.
-std::optional<InputFailure> checkBirthEntry(const BirthEntry& entry);
+// The letters as capitals A to Z, and the blanks; everything else is left out.
+std::u16string filterName(std::u16string_view text);

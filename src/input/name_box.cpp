@@ -11,19 +11,14 @@
 #include <algorithm>
 #include <utility>
 
-#include "input/name_filter.h"
+#include "input/input_check.h"
 
 namespace {
 
-// Ctrl, Alt and Meta make a key a command, but for Ctrl and Alt together, which is AltGr on Windows.
+// Ctrl, Alt or Meta make a key press a command. Ctrl and Alt together are AltGr on Windows.
 bool isCommand(Qt::KeyboardModifiers modifiers) {
     const auto held = modifiers & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
     return held != Qt::NoModifier && held != (Qt::ControlModifier | Qt::AltModifier);
-}
-
-// Not Enter, Backspace and the like, which have a text, too.
-bool isWritten(const QString& text) {
-    return !text.isEmpty() && text.front().category() != QChar::Other_Control;
 }
 
 }  // namespace
@@ -39,15 +34,15 @@ void NameBox::setName(const QString& name) {
     lastText_ = name;
 }
 
-// Line ends at the end come with a copied line and go in silence.
+// Line breaks at the end, which come with a copied line, are removed without a message.
 QString NameBox::filtered(QStringView text) {
     while (text.endsWith(QLatin1Char('\n')) || text.endsWith(QLatin1Char('\r'))) text.chop(1);
-    const FilteredName name = filterName(text.toString().toStdU16String());
-    if (name.rejectedAny) emit rejected();
-    return QString::fromStdU16String(name.accepted);
+    const QString accepted = QString::fromStdU16String(filterName(text.toString().toStdU16String()));
+    if (accepted.size() < text.size()) emit rejected();
+    return accepted;
 }
 
-// Enters what passes the filter in place of the selection. Where nothing does, nothing changes.
+// Replaces the selection by what passes the filter; if nothing does, nothing changes.
 void NameBox::enter(const QString& text) {
     const QString name = filtered(text);
     if (!name.isEmpty()) insert(name);
@@ -55,8 +50,7 @@ void NameBox::enter(const QString& text) {
 
 void NameBox::paste(QClipboard::Mode mode) { enter(QGuiApplication::clipboard()->text(mode)); }
 
-// Of all that changes the text, only setText() of somebody else is not an edit: assistive technology both
-// sets and inserts text that way.
+// Filters a text that was set, not edited, as assistive technology does to replace or to insert text.
 void NameBox::filterSetText(const QString& text) {
     const QString before = std::exchange(lastText_, text);
     if (std::exchange(edited_, false)) return;
@@ -70,13 +64,15 @@ void NameBox::filterSetText(const QString& text) {
     setName(refused ? before : text.first(head) + entered + text.last(tail));
 }
 
-// A command goes on without its text, which the base class would write for some of them.
+// The base class gets commands without their text, which it would insert for some of them.
 void NameBox::keyPressEvent(QKeyEvent* event) {
-    const bool command = isCommand(event->modifiers());
+    const QString text = event->text();
+    // The text of Enter, Backspace and similar keys is a control character.
+    const bool writes = !text.isEmpty() && text.front().category() != QChar::Other_Control;
     if (event->matches(QKeySequence::Paste)) {
         paste(QClipboard::Clipboard);
-    } else if (!command && isWritten(event->text())) {
-        enter(event->text());
+    } else if (writes && !isCommand(event->modifiers())) {
+        enter(text);
     } else {
         QKeyEvent bare{event->type(), event->key(), event->modifiers()};
         QLineEdit::keyPressEvent(&bare);
@@ -84,8 +80,7 @@ void NameBox::keyPressEvent(QKeyEvent* event) {
     }
 }
 
-// A composition takes the place of the selection when it begins. If nothing comes of it, the selection comes
-// back.
+// A composition replaces the selection when it begins. If nothing comes of it, undo() restores that.
 void NameBox::inputMethodEvent(QInputMethodEvent* event) {
     const bool composes = !event->preeditString().isEmpty();
     const QString name = filtered(event->commitString());
@@ -119,12 +114,12 @@ void NameBox::contextMenuEvent(QContextMenuEvent* event) {
     menu->popup(event->globalPos());
 }
 
-// Files are for the form, though they come with a text, too.
+// A dragged file, although it comes with a text, is left to the form.
 void NameBox::dragEnterEvent(QDragEnterEvent* event) {
     event->mimeData()->hasUrls() ? event->ignore() : QLineEdit::dragEnterEvent(event);
 }
 
-// Text from elsewhere is copied even where a move is proposed: moving would lose what the filter keeps out.
+// Text from elsewhere is copied even where a move is proposed: a move would lose what the filter removes.
 void NameBox::dropEvent(QDropEvent* event) {
     if (event->source() == this) return QLineEdit::dropEvent(event);
     event->setDropAction(Qt::CopyAction);

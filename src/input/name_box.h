@@ -1,5 +1,4 @@
-// The box for the person's name. Whatever comes in, on whichever way, passes the name filter; what is there
-// stays as it is.
+// The box for the person's name. All text that is entered in any way passes the name filter.
 #pragma once
 
 #include <QClipboard>
@@ -10,11 +9,11 @@ class NameBox : public QLineEdit {
   public:
     NameBox();
 
-    // Puts a name into the box as it stands, as one from a chart file. It can't be undone.
+    // Sets a name, such as one from a chart file, without the filter. It can't be undone.
     void setName(const QString& name);
 
   signals:
-    // Something that is neither a letter nor a blank was kept out.
+    // The filter has removed something that is neither a letter nor a blank.
     void rejected();
 
   protected:
@@ -32,6 +31,6 @@ class NameBox : public QLineEdit {
     void filterSetText(const QString& text);
 
     QString lastText_;
-    bool edited_ = false;             // by hand, so that it has passed the filter
-    bool replacesSelection_ = false;  // the composition of an input method that is going on
+    bool edited_ = false;             // by a person, so that the filter has been applied
+    bool replacesSelection_ = false;  // the current composition of an input method
 };

@@ -9,10 +9,6 @@ bool mayAct(const QWidget& form) {
     return form.isVisible() && (dialog == nullptr || dialog == form.window());
 }
 
-CommandButton::CommandButton(const char* caption, QWidget* parent) : QPushButton(latin(caption), parent) {
-    setAutoDefault(true);
-}
-
 bool CommandButton::event(QEvent* event) {
     if (event->type() != QEvent::Shortcut || static_cast<QShortcutEvent*>(event)->isAmbiguous())
         return QPushButton::event(event);
@@ -30,8 +26,4 @@ QMenuBar* newMenuBar(QWidget* window) {
     menus->setNativeMenuBar(false);
     menus->setContextMenuPolicy(Qt::PreventContextMenu);
     return menus;
-}
-
-QMenu* addMenu(QMenuBar* menus, const char* name, const char* caption) {
-    return named(menus->addMenu(latin(caption)), name);
 }

@@ -30,12 +30,11 @@ void connectControl(Sender* sender, Signal signal, Form* form, Handler handler,
     QObject::connect(sender, signal, form, act, type);
 }
 
-// A button that Enter presses on every desktop. Qt 6.8 still: the access key of a QAbstractButton clicks only
-// after 100 ms, and a key pressed in that time still goes to the old window (Alt+B, then Enter on a palace).
-// Here it clicks immediately.
+// Qt 6.8 still: the access key of a QAbstractButton clicks only after 100 ms, and a key pressed in that time
+// still goes to the old window (Alt+B, then Enter on a palace). Here it clicks immediately.
 class CommandButton : public QPushButton {
   public:
-    explicit CommandButton(const char* caption, QWidget* parent = nullptr);
+    using QPushButton::QPushButton;
 
   protected:
     bool event(QEvent* event) override;
@@ -51,17 +50,17 @@ class PressArea : public QAbstractButton {
     void keyPressEvent(QKeyEvent* event) override;
 };
 
-// A new button whose clicks call the form's handler.
+// A new button, which Enter presses on every desktop, and whose clicks call the form's handler.
 template <class Form, class Handler>
 QPushButton* newButton(const char* name, const char* caption, Form* form, Handler handler,
                        QWidget* parent = nullptr) {
-    QPushButton* button = named(new CommandButton{caption, parent}, name);
+    QPushButton* button = named(new CommandButton{latin(caption), parent}, name);
+    button->setAutoDefault(true);
     connectControl(button, &QPushButton::clicked, form, handler);
     return button;
 }
 
-// Adds an entry that calls the form's handler. The connection is queued, so that a press over the
-// accessibility bus is answered before a dialog opens.
+// Adds an entry that calls the form's handler; queued, so that the accessibility bus waits for no dialog.
 template <class Form, class Handler>
 QAction* addEntry(QMenu* menu, const char* name, const char* caption, Form* form, Handler handler,
                   const QKeySequence& shortcut = {}) {
@@ -72,6 +71,3 @@ QAction* addEntry(QMenu* menu, const char* name, const char* caption, Form* form
 
 // A menu bar inside the window, without a context menu.
 QMenuBar* newMenuBar(QWidget* window);
-
-// Adds a menu to the menu bar.
-QMenu* addMenu(QMenuBar* menus, const char* name, const char* caption);

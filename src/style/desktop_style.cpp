@@ -23,15 +23,11 @@ void DesktopStyle::polish(QPalette& palette) {
 
 int DesktopStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                             QStyleHintReturn* more) const {
-    switch (hint) {
-        // Lists drop down below their box and scroll: 43 years may be higher than the screen.
-        case SH_ComboBox_Popup:
-        // Qt 6.8 still: after Escape, or after Alt alone, QMenuBar keeps the focus without showing it.
-        case SH_MenuBar_AltKeyNavigation:
-            return 0;
-        default:
-            return QProxyStyle::styleHint(hint, option, widget, more);
-    }
+    // Lists drop down below their box and scroll: 43 years may be higher than the screen.
+    if (hint == SH_ComboBox_Popup) return 0;
+    // Qt 6.8 still: after Escape, or after Alt alone, QMenuBar keeps the focus without showing it.
+    if (hint == SH_MenuBar_AltKeyNavigation) return 0;
+    return QProxyStyle::styleHint(hint, option, widget, more);
 }
 
 // Qt 6.8 still: QFusionStyle draws the title of an active QMdiSubWindow in white on the highlight colour,
@@ -59,8 +55,7 @@ void DesktopStyle::drawControl(ControlElement element, const QStyleOption* optio
         return drawFocusFrame(*painter, option->rect, option->palette);
     }
     QProxyStyle::drawControl(element, option, painter, widget);
-    // Qt 6.8 still: QFusionStyle draws the line below a menu bar in pieces, with gaps at a fractional device
-    // pixel ratio.
+    // Qt 6.8 still: QFusionStyle draws the line below a menu bar with gaps at a fractional pixel ratio.
     const bool ofMenuBar = element == CE_MenuBarItem || element == CE_MenuBarEmptyArea;
     if (ofMenuBar && baseStyle()->name() == QStringLiteral("fusion")) {
         const QColor ground = option->palette.color(QPalette::Window);

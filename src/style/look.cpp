@@ -2,6 +2,7 @@
 
 #include <QFontDatabase>
 #include <QIcon>
+#include <QPainter>
 #include <algorithm>
 #include <cmath>
 
@@ -11,10 +12,8 @@ namespace {
 
 // Only an installed family: looking for a missing one takes time at every font size.
 QStringList families() {
-    static const QString verdana = QStringLiteral("Verdana");
-    static const QStringList found{QFontDatabase::hasFamily(verdana) ? verdana
-                                                                     : QStringLiteral("DejaVu Sans")};
-    return found;
+    static const bool hasVerdana = QFontDatabase::hasFamily(QStringLiteral("Verdana"));
+    return {hasVerdana ? QStringLiteral("Verdana") : QStringLiteral("DejaVu Sans")};
 }
 
 constexpr double legible = 4.5;
@@ -26,6 +25,14 @@ double luminance(const QColor& colour) {
     };
     return 0.2126 * part(colour.redF()) + 0.7152 * part(colour.greenF()) + 0.0722 * part(colour.blueF());
 }
+
+class Mark : public QLabel {
+  protected:
+    void paintEvent(QPaintEvent*) override {
+        QPainter painter{this};
+        productIcon({48, 128, 256}).paint(&painter, rect());
+    }
+};
 
 }  // namespace
 
@@ -99,6 +106,13 @@ QIcon productIcon(std::initializer_list<int> sizes) {
         icon.addFile(QStringLiteral(":/icons/palace-lantern-%1.png").arg(size), QSize{size, size});
     }
     return icon;
+}
+
+QLabel* newMark(int size) {
+    auto* mark = new Mark;
+    mark->setFixedSize(size, size);
+    mark->setAccessibleName(QStringLiteral("Lantern"));
+    return mark;
 }
 
 }  // namespace look

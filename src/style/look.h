@@ -3,9 +3,9 @@
 
 #include <QColor>
 #include <QFont>
+#include <QLabel>
 #include <QPalette>
 #include <QString>
-#include <QWidget>
 #include <initializer_list>
 
 #include "interpret/text_run.h"
@@ -45,8 +45,7 @@ QPalette legibleSelection(const QPalette& desktop);
 // dark text colour for the shadow.
 QPalette legibleTitle(const QPalette& desktop);
 
-// The colour of the focus frame: the highlight colour or, where it has too little contrast with the controls,
-// the text colour.
+// The colour of the focus frame: the highlight or, with too little contrast to controls, the text colour.
 QColor focusColour(const QPalette& palette);
 
 // The colour of a link on the widget: blue or, with too little contrast, the desktop's link or text colour.
@@ -57,5 +56,8 @@ QFont titleFont();
 
 QString productName();
 QIcon productIcon(std::initializer_list<int> sizes);
+
+// A label with the program's icon in so many pixels, sharp at every device pixel ratio.
+QLabel* newMark(int size);
 
 }  // namespace look

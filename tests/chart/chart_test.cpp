@@ -93,7 +93,7 @@ TEST_F(Chains, AgreeWithTheHandCharts) {
         for (const CellIndex cell : allCells) EXPECT_EQ(cellLine(chart_, cell), hand.cells[cell.index()]);
     }
     for (const StarRow& row : starTable)
-        EXPECT_TRUE(chart_.cell(chart_.cellOf(row.star)).holds(row.star)) << row.name;
+        EXPECT_TRUE(chart_.cell(chart_.cellOf(row.star)).holds(row.star)) << row.field.name;
 }
 
 TEST_F(Chains, FlagsStayUntilTheCellsAreLoadedAndMarkedBranchesAreNotFoundAgain) {

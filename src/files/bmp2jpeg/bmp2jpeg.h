@@ -4,6 +4,5 @@
 #pragma once
 
 // Converts the BMP file `bmpPath` to the JPEG file `jpegPath`, which it replaces; both paths are in the file
-// system's encoding. A `quality` outside 1 to 100 counts as the nearer of the two. Returns 1 on success and 0
-// on failure, which leaves a file at `jpegPath` as it was.
+// system's encoding. A `quality` outside 1..100 is clamped. Returns 1, or 0 and leaves `jpegPath` as it was.
 extern "C" int BmpToJpeg(const char* bmpPath, const char* jpegPath, int quality) noexcept;
