@@ -20,9 +20,12 @@ class TemporaryFolder : public testing::Test {
     TemporaryFolder() { EXPECT_NE(::mkdtemp(folder_.data()), nullptr); }
     ~TemporaryFolder() override { std::filesystem::remove_all(folder_); }
 
-    static void write(const std::string& path, const std::string& bytes) { std::ofstream{path} << bytes; }
-    static std::string read(const std::string& path) {
-        return {std::istreambuf_iterator<char>{std::ifstream{path}.rdbuf()}, {}};
+    // The path of something in the folder.
+    std::string in(const std::string& name) const { return folder_ + "/" + name; }
+
+    void write(const std::string& name, const std::string& bytes) const { std::ofstream{in(name)} << bytes; }
+    std::string read(const std::string& name) const {
+        return {std::istreambuf_iterator<char>{std::ifstream{in(name)}.rdbuf()}, {}};
     }
 
     // All that is in the folder.

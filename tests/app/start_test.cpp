@@ -13,7 +13,7 @@ TEST_F(Start, IsOfOneProgramAlsoWithoutARuntimeFolder) {
     qputenv("TMPDIR", folder_.c_str());
     QLockFile others{QDir::temp().filePath("palace-lantern-" + QDir::home().dirName() + ".lock")};
     EXPECT_TRUE(others.tryLock()) << "what lies in a folder that all users share may be another's";
-    for (const std::string& runtime : {folder_ + "/missing/folder", std::string{"/proc"}, std::string{}}) {
+    for (const std::string& runtime : {in("missing/folder"), std::string{"/proc"}, std::string{}}) {
         runtime.empty() ? qunsetenv("XDG_RUNTIME_DIR") : qputenv("XDG_RUNTIME_DIR", runtime.c_str());
         const SingleInstance first, second;
         EXPECT_FALSE(first.anotherIsRunning()) << runtime;
@@ -24,28 +24,28 @@ TEST_F(Start, IsOfOneProgramAlsoWithoutARuntimeFolder) {
 }
 
 TEST_F(Start, NeedsTheConverterAsAFile) {
-    const QString self = QCoreApplication::applicationFilePath(), copy = (folder_ + "/copy").c_str();
+    const QString self = QCoreApplication::applicationFilePath(), copy = in("copy").c_str();
     if (!self.endsWith("/copy")) {  // which has no converter beside it
         EXPECT_TRUE(requiredFileIsPresent() && QFile::copy(self, copy));
         EXPECT_EQ(QProcess::execute(copy, {"--gtest_filter=Start.NeedsTheConverterAsAFile"}), 0);
         return;
     }
-    const auto told = [] { return messagesOf([] { EXPECT_FALSE(requiredFileIsPresent()); }); };
-    const QStringList missing{"critical|Required File Is Missing\nPlease Reinstall Software"};
-    EXPECT_EQ(told(), missing);
-    EXPECT_TRUE(QDir{}.mkdir(converterPath()));
-    EXPECT_EQ(told(), missing);
+    for (int time = 0; time < 2; ++time) {
+        EXPECT_EQ(messagesOf([] { EXPECT_FALSE(requiredFileIsPresent()); }),
+                  QStringList{"critical|Required File Is Missing\nPlease Reinstall Software"});
+        EXPECT_EQ(QDir{}.mkdir(converterPath()), time == 0);
+    }
 }
 
 TEST_F(Start, TakesOneChartFile) {
-    const std::string chart = folder_ + "/chart.plf", empty = folder_ + "/empty.plf";
-    write(chart, chartFileBytes({u"JOHN SMITH", 1985, "March", 5}));
-    write(empty, "");
-    for (const QStringList& wrong : {QStringList{"--shout"}, {chart.c_str(), chart.c_str()}})
+    write("chart.plf", chartFileBytes({u"JOHN SMITH", 1985, "March", 5}));
+    write("empty.plf", "");
+    const QString chart = in("chart.plf").c_str();
+    for (const QStringList& wrong : {QStringList{"--shout"}, {chart, chart}})
         EXPECT_EQ(QProcess::execute(PROGRAM_PATH, wrong), 1);
     const std::tuple<std::string, QStringList, QString, QString> files[]{
-        {chart, {}, "JOHN SMITH 5 March 1985 0 0", "cmbHour"},
-        {empty, {"information|Please Enter Your Name !"}, " 1 January 1970 0 0", "txtName"},
+        {in("chart.plf"), {}, "JOHN SMITH 5 March 1985 0 0", "cmbHour"},
+        {in("empty.plf"), {"information|Please Enter Your Name !"}, " 1 January 1970 0 0", "txtName"},
         {"/none.plf", {"critical|Please Check The File."}, " 1 January 1970 0 0", "txtName"},
     };
     for (const auto& [file, messages, after, focus] : files) {

@@ -9,34 +9,32 @@ namespace {
 
 class ChartWindow : public testing::Test {
   protected:
-    void show(BirthEntry entry = handCharts[0].entry, QSize room = {1100, 800}) {
+    void show(const QSize& room = {1100, 800}, std::u16string name = u"JOHN SMITH") {
+        const BirthEntry entry{std::move(name), handCharts[0].entry.date, 13, 1};
         LunarMonth = 0;
-        entry.date = generateChart(entry, chart_).value();
+        EXPECT_TRUE(generateChart(entry, chart_).has_value());
         display_ = std::make_unique<frmDisplay>(chart_, entry);
         display_->resize(display_->fitInto(room));
         display_->show();
         EXPECT_TRUE(QTest::qWaitForWindowActive(display_.get()));
+        client_ = display_->findChild<QScrollArea*>();
     }
-    static QString text(const char* label) { return find<QLabel>(label)->text(); }
+    static QString text(const QString& label) { return find<QLabel>(label)->text(); }
     static QWidget* cover(int cell) { return find(QString("lblCover(%1)").arg(cell)); }
 
     ChartModel chart_;
     std::unique_ptr<frmDisplay> display_;
+    QScrollArea* client_ = nullptr;
 };
 
 TEST_F(ChartWindow, ShowsTheWholeChartAndTellsItInSentences) {
-    BirthEntry entry = handCharts[0].entry;
-    entry.name = u" <b>X</b>&amp; ";
-    show(entry);
+    show({1100, 800}, u" <b>X</b>&amp; ");
     for (const QLabel* label : display_->findChildren<QLabel*>())
         EXPECT_EQ(label->textFormat(), Qt::PlainText);
     for (const CellIndex cell : allCells) {
-        const auto label = [cell](std::string_view name) {
-            return find<QLabel>(latin(name) + QString("(%1)").arg(cell.value()));
-        };
         for (const CellField& field : cellFields) {
-            const QLabel* each = label(field.name);
-            EXPECT_EQ(each->isVisible() ? each->text() : "", latinLines(shownIn(chart_.cell(cell), field)));
+            const QLabel* label = find<QLabel>(latin(field.name) + QString("(%1)").arg(cell.value()));
+            EXPECT_EQ(label->isVisible() ? label->text() : "", latinLines(shownIn(chart_.cell(cell), field)));
         }
     }
     QStringList header;
@@ -63,7 +61,7 @@ TEST_F(ChartWindow, HintsAtWhatThePointerIsOnOrTheKeysLedTo) {
         QTest::mouseClick(cover(4), Qt::LeftButton);
         QTest::mouseMove(find(ground), {2, 2});
         expectHint(onGround);
-        QTest::keyClick(cover(4), Qt::Key_Right);
+        press("Right", cover(4));
         expectHint(onCell);
         QTest::mouseMove(find(ground), {4, 2});
         expectHint(onGround);
@@ -73,33 +71,29 @@ TEST_F(ChartWindow, HintsAtWhatThePointerIsOnOrTheKeysLedTo) {
 TEST_F(ChartWindow, IsWalkedByArrowKeys) {
     show();
     cover(0)->setFocus();
-    const auto walk = [this](const QString& steps) {
-        QString path;
-        for (const QChar step : steps) {
-            constexpr std::array keys{Qt::Key_Left, Qt::Key_Up, Qt::Key_Right, Qt::Key_Down};
-            QTest::keyClick(display_->focusWidget(), keys[std::size_t(QString("lurd").indexOf(step))]);
-            path += display_->focusWidget()->objectName().mid(8);
-        }
-        return path;
-    };
-    EXPECT_EQ(walk("uuurrrdddlll"), "(1)(2)(3)(4)(5)(6)(7)(8)(9)(10)(11)(0)");
-    EXPECT_EQ(walk("lurdluuu"), "(0)(1)(8)(9)(10)(5)(5)(5)") << "edges, and across the centre";
+    QString path;
+    for (const QString& key : QString("Up Up Up Right Right Right Down Down Down Left Left Left "  // round
+                                      "Left Up Right Down Left Up Up Up")
+                                  .split(' ')) {  // edges, and across
+        press(key);
+        path += display_->focusWidget()->objectName().mid(8);
+    }
+    EXPECT_EQ(path, "(1)(2)(3)(4)(5)(6)(7)(8)(9)(10)(11)(0)(0)(1)(8)(9)(10)(5)(5)(5)");
 }
 
 TEST_F(ChartWindow, IsAsLargeAsFitsAndScrollsOnlyWhereItCouldNotBeRead) {
     for (const QSize& room : {QSize{1270, 940}, {1900, 950}, {2500, 600}, {900, 2000}, {600, 400}}) {
-        show(handCharts[0].entry, room);
-        const auto* client = display_->findChild<QScrollArea*>();
-        const bool whole = client->viewport()->size() == client->widget()->size();
+        show(room);
+        const bool whole = client_->viewport()->size() == client_->widget()->size();
         EXPECT_EQ(whole, room.width() > 600 || display_->devicePixelRatioF() > 1) << room.width();
         EXPECT_TRUE(display_->width() > room.width() * 8 / 10 || display_->height() > room.height() * 8 / 10);
     }
-    show(handCharts[0].entry, {940, 400});
-    EXPECT_EQ(display_->findChild<QScrollArea*>()->horizontalScrollBar()->maximum(), 0) << "down only";
-    show(handCharts[0].entry, {500, 300});
+    show({940, 400});
+    EXPECT_EQ(client_->horizontalScrollBar()->maximum(), 0) << "down only";
+    show({500, 300});
     cover(6)->setFocus(Qt::TabFocusReason);
     EXPECT_EQ(cover(6)->visibleRegion().boundingRect(), cover(6)->rect()) << "the focus is in sight";
-    auto* bar = display_->findChild<QScrollArea*>()->horizontalScrollBar();
+    auto* bar = client_->horizontalScrollBar();
     cover(6)->clearFocus();
     bar->setValue(bar->value() - cover(6)->width() / 2);
     const int before = bar->value();

@@ -34,8 +34,8 @@ void sendAt(quint64 time, QWidget& window, Event event) {
     QApplication::sendEvent(window.windowHandle(), &event);
 }
 
-void pressEnterAt(quint64 time, QWidget& window) {
-    sendAt(time, window, QKeyEvent{QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, "\r"});
+void sendEnterAt(quint64 time, QEvent::Type type, QWidget& window) {
+    sendAt(time, window, QKeyEvent{type, Qt::Key_Return, Qt::NoModifier, "\r"});
 }
 
 class Analysis : public Program {
@@ -45,8 +45,8 @@ class Analysis : public Program {
     // Opens the analysis of all palaces and closes it when `act` is done.
     static void open(const std::function<void(QTextEdit&)>& act) {
         const auto actAndClose = [&](QWidget& window) {
-            act(*window.findChild<QTextEdit*>("RTB"));
-            QTest::keyClick(&window, Qt::Key_Escape);
+            act(*find<QTextEdit>("RTB"));
+            window.close();
         };
         EXPECT_EQ(withModals([] { click("cmdShowAll"); }, actAndClose), 1);
     }
@@ -57,7 +57,7 @@ class Analysis : public Program {
             auto& dialog = dynamic_cast<QPrintDialog&>(window);
             const bool isSelected = find<QTextEdit>("RTB")->textCursor().hasSelection();
             EXPECT_EQ(dialog.printRange() == QPrintDialog::Selection, isSelected);
-            auto* printers = dialog.findChild<QComboBox*>("printers");
+            auto* printers = find<QComboBox>("printers");
             printers->setCurrentIndex(printers->findText("Print to File (PDF)"));
             dialog.printer()->setPageLayout(
                 QPrinter{QPrinter::HighResolution}.pageLayout());  // as printers do
@@ -66,7 +66,7 @@ class Analysis : public Program {
             static const QRegularExpression pageNumbers{"[pP]age|from|^to$|printRange|reverse"};
             for (const auto* control : dialog.findChildren<QWidget*>(pageNumbers))
                 EXPECT_FALSE(control->isVisible()) << control->objectName().toStdString();
-            dialog.findChild<QLineEdit*>("filename")->setText(pdf_);
+            find<QLineEdit>("filename")->setText(pdf_);
             dialog.accept();
         };
         EXPECT_EQ(withModals([] { click("cmdPrint"); }, accept), 1);
@@ -84,7 +84,7 @@ class Analysis : public Program {
     QStringList pages() const { return paper().split("\f").mid(0, paper().count("\f")); }
 
     const ChartModel chart_ = cast(handCharts[0].entry);
-    const QString pdf_ = (folder_ + "/paper.pdf").c_str();
+    const QString pdf_ = in("paper.pdf").c_str();
 };
 
 TEST_F(Analysis, OfAPalaceIsOpenedOnceByAKeyThatIsHeldDownAndReadUntilTheNextPress) {
@@ -92,33 +92,29 @@ TEST_F(Analysis, OfAPalaceIsOpenedOnceByAKeyThatIsHeldDownAndReadUntilTheNextPre
         QKeyEvent repeat{QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, "\r", true};
         QApplication::sendEvent(window.windowHandle(), &repeat);
         for (const quint64 time : {5000U, 5030U}) {  // as the X server reports it
-            sendAt(time, window, QKeyEvent{QEvent::KeyRelease, Qt::Key_Return, Qt::NoModifier, "\r"});
-            pressEnterAt(time + 1, window);
+            sendEnterAt(time, QEvent::KeyRelease, window);
+            sendEnterAt(time + 1, QEvent::KeyPress, window);
         }
         EXPECT_TRUE(window.isVisible());
     };
     const auto pressAndHold = [&] {
         find("lblCover(7)")->setFocus();
-        pressEnterAt(1000, *find("frmMdi"));
+        sendEnterAt(1000, QEvent::KeyPress, *find("frmMdi"));
         hold(*find("frmMdi"));
     };
     const auto holdAndRead = [&](QWidget& analysis) {
-        auto* text = analysis.findChild<QTextEdit*>("RTB");
-        if (text == nullptr)
-            return QTest::keyClick(&analysis, Qt::Key_Escape);  // another window: one too many
         hold(analysis);
-        expectRuns(*text, composePalaceAnalysis(chart_, 7));
-        EXPECT_TRUE(text->isReadOnly());
+        expectRuns(*find<QTextEdit>("RTB"), composePalaceAnalysis(chart_, 7));
+        EXPECT_TRUE(find<QTextEdit>("RTB")->isReadOnly());
         EXPECT_FALSE(find("cmdSave")->isVisible() || find("cmdPrint")->isVisible());
-        for (const Qt::Key key : {Qt::Key_S, Qt::Key_P}) QTest::keyClick(text, key, Qt::ControlModifier);
-        pressEnterAt(5200, analysis);  // late, but soon delivered
+        press("Ctrl+S Ctrl+P");
+        sendEnterAt(5200, QEvent::KeyPress, analysis);  // late, but soon delivered
         EXPECT_FALSE(analysis.isVisible());
         analysis.close();
     };
     EXPECT_EQ(withModals(pressAndHold, holdAndRead), 1);
     const auto pressWithoutTime = [](QWidget& analysis) {  // as it comes while assistive technology listens
-        sendAt(0, analysis, QKeyEvent{QEvent::KeyRelease, Qt::Key_Return, Qt::NoModifier, "\r"});
-        pressEnterAt(0, analysis);
+        for (const auto type : {QEvent::KeyRelease, QEvent::KeyPress}) sendEnterAt(0, type, analysis);
         EXPECT_FALSE(analysis.isVisible());
         analysis.close();
     };
@@ -148,43 +144,42 @@ TEST_F(Analysis, OfAPalaceIsNotClosedByTheSecondHalfOfADoubleClick) {
         clickAt(5000, *menus, menus->actionGeometry(menus->actions().first()).center());
         clickAt(5100, *find<QMenu>("mnuFile"));  // goes on with its title; its first entry is Show All
     };
-    EXPECT_EQ(withModals(chooseQuickly, [](QWidget& analysis) { analysis.close(); }), 1);
+    EXPECT_EQ(withModals(chooseQuickly), 1);
 }
 
 TEST_F(Analysis, OfAllPalacesIsSavedAndAsksBeforeItOverwrites) {
-    const std::string bytes = chartFileBytes(chart_.input), own = folder_ + "/chart.txt";
-    const QString question = "question|%1 already exists.\nDo you want to replace it?";
-    const auto saveAll = [&](QTextEdit& text) {
-        const auto save = [&](const std::vector<std::string>& typed, bool yes = false) {
-            text.activateWindow();
-            EXPECT_TRUE(QTest::qWaitFor([&] { return text.isActiveWindow(); }));
-            const auto press = [&] { QTest::keyClick(&text, Qt::Key_S, Qt::ControlModifier); };
-            return messagesOf(press, typed, yes);
-        };
-        const auto expectRefusal = [&](const std::string& path, const QString& why) {
-            EXPECT_EQ(save({path}), (QStringList{"critical|" + why, "stays"}));
-        };
-        EXPECT_EQ(save({folder_ + "/chart"}), QStringList{});
-        EXPECT_EQ(read(own), bytes);
-        write(own, "old");
-        EXPECT_EQ(save({folder_ + "/chart"}), (QStringList{question.arg("chart.txt"), "stays"}));
-        EXPECT_EQ(read(own), "old");
-        EXPECT_EQ(save({folder_ + "/chart"}, true), QStringList{question.arg("chart.txt")});
-        EXPECT_EQ(read(own), bytes);
-        std::filesystem::create_directories(folder_ + "/sub/name.txt");
-        const std::vector<std::string> other[]{
-            {folder_ + "/say \"hi\" now.plf"}, {folder_ + "/<h1>BIG.plf"}, {folder_ + "/sub", "in sub"}};
-        for (const auto& typed : other) EXPECT_EQ(save(typed), QStringList{});
-        EXPECT_EQ(save({folder_ + "/<h1>BIG.plf"}), (QStringList{question.arg("<h1>BIG.plf"), "stays"}));
+    const std::string bytes = chartFileBytes(chart_.input), ours = in("chart"), big = in("<h1>BIG.plf");
+    const auto save = [&](const std::vector<std::string>& typed, bool yes = false) {
+        find("RTB")->activateWindow();
+        await([] { return find("RTB")->hasFocus(); });
+        return messagesOf([] { press("Ctrl+S"); }, typed, yes);
+    };
+    const auto expectRefusal = [&](const std::string& path, const QString& why) {
+        EXPECT_EQ(save({path}), (QStringList{why, "stays"})) << path;
+    };
+    const auto saveAll = [&](QTextEdit&) {
+        const QString question = "question|%1 already exists.\nDo you want to replace it?";
+        EXPECT_EQ(save({ours}), QStringList{});
+        EXPECT_EQ(read("chart.txt"), bytes);
+        write("chart.txt", "old");
+        expectRefusal(ours, question.arg("chart.txt"));
+        EXPECT_EQ(read("chart.txt"), "old");
+        EXPECT_EQ(save({ours}, true), QStringList{question.arg("chart.txt")});
+        EXPECT_EQ(read("chart.txt"), bytes);
+        std::filesystem::create_directories(in("sub/name.txt"));
+        for (const std::vector<std::string>& typed :
+             {std::vector{in("say \"hi\" now.plf")}, {big}, {in("sub"), "in sub"}})
+            EXPECT_EQ(save(typed), QStringList{});
         EXPECT_EQ(names(), (Names{"chart.txt", "say \"hi\" now.plf", "sub", "<h1>BIG.plf"}));
-        EXPECT_EQ(read(folder_ + "/sub/in sub.txt"), bytes);
-        expectRefusal("/none/chart", "The folder does not exist.");
-        expectRefusal(folder_ + "/sub/name", "This is the name of a folder.");
-        expectRefusal(folder_ + "/" + std::string(256, 'n'), "The name is too long.");
-        std::filesystem::permissions(own, std::filesystem::perms::owner_read);
+        EXPECT_EQ(read("sub/in sub.txt"), bytes);
+        expectRefusal(big, question.arg("<h1>BIG.plf"));
+        expectRefusal("/none/chart", "critical|The folder does not exist.");
+        expectRefusal(in("sub/name"), "critical|This is the name of a folder.");
+        expectRefusal(in(std::string(256, 'n')), "critical|The name is too long.");
+        std::filesystem::permissions(in("chart.txt"), std::filesystem::perms::owner_read);
         inClosedFolder([&] {
-            expectRefusal(own, "This file is read-only.");
-            expectRefusal(folder_ + "/new", "Nothing can be saved in this folder.");
+            expectRefusal(in("chart.txt"), "critical|This file is read-only.");
+            expectRefusal(in("new"), "critical|Nothing can be saved in this folder.");
         });
     };
     open(saveAll);
@@ -194,37 +189,37 @@ TEST_F(Analysis, IsReadInAnySizeAndPrintedInItsOwnAsFarAsItIsSelected) {
     const QString words = "life after 50 years of age.";
     QString before;
     const auto changeSize = [&](QTextEdit& text) {
-        const auto press = [&](Qt::Key key) { QTest::keyClick(&text, key, Qt::ControlModifier); };
         const auto turn = [&](int times, int angle, Qt::KeyboardModifiers held) {
             QWheelEvent event{{}, {}, {}, {0, angle}, Qt::NoButton, held, Qt::NoScrollPhase, false};
             for (int time = 0; time < times; ++time) QApplication::sendEvent(text.viewport(), &event);
         };
-        const auto size = [&] { return text.document()->find("Palace").charFormat().fontPointSize(); };
+        const auto expectSize =
+            [&, own = text.document()->find("Palace").charFormat().fontPointSize()](double factor) {
+                EXPECT_DOUBLE_EQ(text.document()->find("Palace").charFormat().fontPointSize(), own * factor);
+            };
         const auto top = [&] { return text.cursorForPosition({0, 2}).blockNumber(); };
         print();
         before = paper("-bbox");
-        const double own = size();
         EXPECT_EQ(text.textCursor().position() + top(), 0) << "read from its top";
         text.setTextCursor(text.document()->find(words));
         const int place = text.textCursor().position();
         text.verticalScrollBar()->setValue(text.verticalScrollBar()->maximum() * 2 / 3);
         const int topBefore = top();
-        press(Qt::Key_Equal);
-        EXPECT_DOUBLE_EQ(size(), own * 1.1);
+        press("Ctrl+=");
+        expectSize(1.1);
         EXPECT_EQ(top(), topBefore);
         EXPECT_EQ(text.textCursor().selectedText(), words);
         EXPECT_EQ(text.textCursor().position(), place);
         turn(3, -40, Qt::ControlModifier);  // as a touchpad does
-        EXPECT_DOUBLE_EQ(size(), own);
+        expectSize(1);
         turn(4, -120, Qt::ControlModifier);
-        EXPECT_DOUBLE_EQ(size(), own * 0.8) << "the least";
+        expectSize(0.8);  // the least
         turn(8, 120, Qt::ControlModifier);
         turn(1, 120, Qt::NoModifier);
-        EXPECT_DOUBLE_EQ(size(), own * 2.5);
-        press(Qt::Key_0);
-        press(Qt::Key_Minus);
-        EXPECT_DOUBLE_EQ(size(), own * 0.9);
-        for (int step = 0; step < 12; ++step) press(Qt::Key_Plus);
+        expectSize(2.5);
+        press("Ctrl+0 Ctrl+-");
+        expectSize(0.9);
+        for (int step = 0; step < 12; ++step) press("Ctrl++");
         text.window()->resize(510, 440);
     };
     open(changeSize);
@@ -243,10 +238,8 @@ TEST_F(Analysis, IsReadInAnySizeAndPrintedInItsOwnAsFarAsItIsSelected) {
 TEST_F(Analysis, IsPrintedWithinMarginsAndNothingThatBelongsTogetherIsParted) {
     open([this](QTextEdit&) { print(); });
     EXPECT_GE(pages().size(), 3);
-    for (const QString& page : pages().mid(1)) {
-        const QString first = page.section("\n", 0, 0);
-        EXPECT_TRUE(first.contains("Palace :- ") || first.contains("Star :- ")) << page.toStdString();
-    }
+    static const QRegularExpression heading{"^[^\n]*(Palace|Star) :- "};
+    for (const QString& page : pages().mid(1)) EXPECT_TRUE(page.contains(heading)) << page.toStdString();
     static const QRegularExpression place{"xMin=\"(.*?)\" yMin=\"(.*?)\""};
     const auto firstWord = place.match(paper("-bbox"));
     EXPECT_NEAR(firstWord.captured(1).toDouble(), 20 * 72 / 25.4, 3);  // millimetres in points

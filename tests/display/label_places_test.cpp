@@ -61,6 +61,7 @@ TEST_F(Labels, CanBeReadOnALightChartEvenOnADarkDesktop) {
     QApplication::setPalette(QPalette{QColor{40, 40, 40}});
     scaleTo(12);
     display_.show();
+    QCoreApplication::processEvents();
     int count = 0;
     for (const QLabel* shown : display_.findChildren<QLabel*>()) {
         if (shown->text().isEmpty() || !shown->isVisible()) continue;

@@ -15,11 +15,6 @@ const QString old = "OLD 1 January 2001 13 30";
 
 class InputForm : public Program {
   protected:
-    QString press(Qt::Key key, Qt::KeyboardModifiers held = Qt::NoModifier) {
-        QTest::keyClick(name_, key, held);
-        return name_->text();
-    }
-
     // Drags to the name box, with Shift as if to be moved away, drops what may be dropped there, and returns
     // whether it may.
     bool drop(const QMimeData& dragged) {
@@ -46,6 +41,11 @@ class InputForm : public Program {
                         : name_->text().insert(name_->selectionEnd(), ']').insert(from, '[');
     }
 
+    void awaitFocus() {
+        form_->activateWindow();
+        await([this] { return name_->hasFocus(); });
+    }
+
     QWidget* form_ = find("frmMain");
     QLineEdit* name_ = find<QLineEdit>("txtName");
 };
@@ -66,6 +66,7 @@ TEST_F(InputForm, OpensOnTheFirstEntriesAndTurnsOnlyTheListInFocus) {
         EXPECT_EQ(year->currentIndex(), expected);
         year->setFocus();
     }
+    EXPECT_TRUE(frmMain{}.findChild<QPushButton*>("cmdGenerateChart")->isDefault()) << "from the start";
     form_->resize(1300, 600);
     const auto* details = form_->findChild<QGroupBox*>();
     EXPECT_LT(details->width(), 900) << "where a desktop makes the form as wide as the screen";
@@ -86,7 +87,7 @@ TEST_F(InputForm, FiltersWhatComesInOnEveryWayAndLeavesWhatIsThere) {
             QApplication::sendEvent(name_, &end);
         };
     };
-    const auto afterCopying = [](const std::function<void()>& paste) -> Way {
+    const auto afterCopying = [](const Action& paste) -> Way {
         return [=](const QString& text) {
             for (const auto mode : {QClipboard::Clipboard, QClipboard::Selection})
                 QGuiApplication::clipboard()->setText(text, mode);
@@ -96,16 +97,16 @@ TEST_F(InputForm, FiltersWhatComesInOnEveryWayAndLeavesWhatIsThere) {
     const auto pasteByMenu = afterCopying([&] {
         QContextMenuEvent event{QContextMenuEvent::Mouse, {}, name_->mapToGlobal(QPoint{5, 5})};
         QApplication::sendEvent(name_, &event);
-        QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_P);
+        QTest::keyClick(present(QApplication::activePopupWidget(), "menu"), Qt::Key_P);
     });
     const auto pasteByMiddle = afterCopying([&] { QTest::mouseClick(name_, Qt::MiddleButton, {}, {2, 5}); });
     const auto dropText = afterCopying([&] { drop(*QGuiApplication::clipboard()->mimeData()); });
-    const auto paste = afterCopying([&] { press(Qt::Key_V, Qt::ControlModifier); });
-    const auto insert = afterCopying([&] { press(Qt::Key_Insert, Qt::ShiftModifier); });
+    const auto paste = afterCopying([] { press("Ctrl+V"); });
+    const auto insert = afterCopying([] { press("Shift+Ins"); });
     auto* bus = QAccessible::queryAccessibleInterface(name_);
     const Way insertByBus = [&](auto& text) { bus->editableTextInterface()->insertText(0, text); };
     const Way setByBus = [&](auto& text) { bus->setText(QAccessible::Value, text); };
-    const Way eraseOne = [&](auto&) { press(Qt::Key_Backspace); };
+    const Way eraseOne = [](auto&) { press("Backspace"); };
     const auto type = typeWith({}), typeWithAltGr = typeWith(Qt::ControlModifier | Qt::AltModifier);
     const std::tuple<QString, Way, QString, QString, bool> rows[]{
         {"[JOHN SMITH]", type, "1", "[JOHN SMITH]", true},
@@ -140,23 +141,22 @@ TEST_F(InputForm, FiltersWhatComesInOnEveryWayAndLeavesWhatIsThere) {
         setState(before);
         EXPECT_EQ(messagesOf([&] { way(text); }), told ? onlyLetters : QStringList{}) << before.toStdString();
         EXPECT_EQ(state(), after) << before.toStdString() << text.toStdString();
-        form_->activateWindow();
-        EXPECT_TRUE(QTest::qWaitFor([this] { return name_->hasFocus(); }));
+        awaitFocus();
     }
 }
 
 TEST_F(InputForm, TakesBackWhatWasTypedAndRepeatsBlanks) {
-    const auto typeAndUndo = [&] {
-        for (const char letter : {'a', 'B', '1', 'c'}) QTest::keyClick(name_, letter);
+    const auto typeAndUndo = [this] {
+        press("A Shift+B 1 C", name_);
         QCoreApplication::processEvents();
-        for (int time = 0; time < 3; ++time) press(Qt::Key_Z, Qt::ControlModifier);
+        press("Ctrl+Z Ctrl+Z Ctrl+Z", name_);
         EXPECT_EQ(name_->text(), "");
-        EXPECT_EQ(press(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier), "ABC");
+        press("Ctrl+Shift+Z", name_);
     };
     EXPECT_EQ(messagesOf(typeAndUndo), onlyLetters);
-    EXPECT_TRUE(QTest::qWaitFor([this] { return name_->hasFocus(); }));
-    press(Qt::Key_A, Qt::ControlModifier);
-    EXPECT_EQ(press(Qt::Key_X, Qt::ControlModifier), "");
+    awaitFocus();
+    press("Ctrl+A Ctrl+X");
+    EXPECT_EQ(name_->text(), "");
     EXPECT_EQ(QGuiApplication::clipboard()->text(), "ABC");
     QKeyEvent repeat{QEvent::KeyPress, Qt::Key_Space, Qt::NoModifier, " ", true};
     for (int count = 0; count < 3; ++count) QApplication::sendEvent(form_->windowHandle(), &repeat);
@@ -168,46 +168,43 @@ TEST_F(InputForm, KeepsTheFocusInTheNameBoxAfterMenusAndMessages) {
     QTest::keyClick(keyboard, Qt::Key_Alt);
     QTest::keyClick(keyboard, Qt::Key_A);
     QTest::keyClick(keyboard, Qt::Key_F, Qt::AltModifier);
-    EXPECT_NE(QApplication::activePopupWidget(), nullptr);
-    QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape);
+    QTest::keyClick(present(QApplication::activePopupWidget(), "menu"), Qt::Key_Escape);
     QTest::keyClick(keyboard, Qt::Key_B);
     EXPECT_EQ(name_->text(), "AB");
-    const auto type = [&] {
-        QTest::keyClick(keyboard, '-');
-        QCoreApplication::processEvents();
-    };
     const auto typeOnAndConfirm = [](QWidget& message) {
         for (const Qt::Key key : {Qt::Key_Space, Qt::Key_O}) QTest::keyClick(message.windowHandle(), key);
         QCoreApplication::processEvents();
         EXPECT_TRUE(message.isVisible());
         QTest::keyClick(message.windowHandle(), Qt::Key_Return);
     };
-    EXPECT_EQ(withModals(type, typeOnAndConfirm), 1);
-    EXPECT_TRUE(QTest::qWaitFor([this] { return name_->hasFocus(); }));
-}
-
-// How well the focus is seen on the upper edge of a control, which has it only the second time.
-double focusContrast(QWidget& control) {
-    find("cmExit")->setFocus();
-    const QImage before = control.grab().toImage();
-    control.setFocus();
-    const QImage after = control.grab().toImage();
-    double most = 1;
-    for (int place = 0; place < 3 * before.width(); ++place) {
-        const QPoint dot{place / 3, place % 3};
-        most = std::max(most, look::contrast(before.pixelColor(dot), after.pixelColor(dot)));
-    }
-    return most;
+    EXPECT_EQ(withModals([&] { QTest::keyClick(keyboard, '-'); }, typeOnAndConfirm), 1);
+    await([this] { return name_->hasFocus(); });
 }
 
 TEST_F(InputForm, ShowsWhereTheFocusIsOnLightAndDarkDesktops) {
     const QPalette desktop = QApplication::palette();
-    for (const QColor& ground : {QColor{239, 239, 239}, QColor{53, 53, 53}}) {
+    const QColor light{239, 239, 239}, dark{53, 53, 53}, red{140, 0, 0}, yellow{255, 230, 0},
+        blue{0, 60, 160};
+    const std::tuple<QColor, QColor, QColor, QColor> rows[]{
+        {light, light.darker(120), Qt::black, red},  // a highlight that does not stand out
+        {dark, dark.darker(120), Qt::white, yellow},
+        {light, blue, Qt::white, blue},
+    };
+    for (const auto& [ground, highlight, letters, expected] : rows) {
         QPalette palette{ground};
-        palette.setColor(QPalette::Highlight, ground.darker(120));  // which does not stand out
+        palette.setColor(QPalette::Highlight, highlight);
+        palette.setColor(QPalette::HighlightedText, letters);
+        palette.setColor(QPalette::WindowText, ground == light ? red : yellow);
         QApplication::setPalette(palette);
-        for (const char* name : {"txtName", "cmbYear", "cmdOpen", "lblBanner"})
-            EXPECT_GE(focusContrast(*find(name)), 3) << name << " on " << ground.red();
+        QCoreApplication::processEvents();
+        for (const char* name : {"txtName", "cmbYear", "cmdOpen", "lblBanner"}) {
+            const auto edge = [control = find(name)] { return control->grab().toImage().pixelColor(40, 1); };
+            find("cmExit")->setFocus();
+            const QColor before = edge();
+            find(name)->setFocus();
+            EXPECT_EQ(edge().name(), expected.name()) << name;
+            EXPECT_GE(look::contrast(edge(), before), 3) << name << " on " << ground.red();
+        }
     }
     QApplication::setPalette(desktop);
 }
@@ -220,35 +217,35 @@ TEST_F(Program, CastsOnEnterAndMovesTheListsAtMidnight) {
         EXPECT_EQ(find("frmMain")->focusWidget(), find(focus));
     }
     enter("A", "31.12.1999", 0, 0);
-    EXPECT_EQ(messagesOf([] { QTest::keyClick(find("txtName"), Qt::Key_Return); }),
+    EXPECT_EQ(messagesOf([] { press("Return", find("txtName")); }),
               QStringList{"information|Please Enter Correct Date"});
     EXPECT_EQ(entered(), "A 31 December 1999 0 0");
     enter(" A", "31.12.1998", 0, 0);
-    QTest::keyClick(find("cmbMinute"), Qt::Key_Return);
+    press("Return", find("cmbMinute"));
     EXPECT_EQ(entered(), " A 1 January 1999 0 0");
     EXPECT_EQ(find<QLabel>("lblDateOfBirth")->text(), "January/1/1999");
 }
 
 TEST_F(InputForm, OpensChartFilesAndIsLeftAsItIsByOthers) {
     const std::string bytes = chartFileBytes({u"O'NEIL <b>", 1985, "March", 5});
-    write(folder_ + "/chart.plf", bytes);
-    write(folder_ + "/chart.txt", bytes);
-    write(folder_ + "/chartplf", bytes.substr(0, bytes.size() - 6));  // without the year
-    write(folder_ + "/noname.plf", bytes.substr(bytes.find('\r')));
-    std::filesystem::create_symlink("/proc/self/mem", folder_ + "/x.plf");
-    std::filesystem::create_symlink("/dev/zero", folder_ + "/device.plf");
+    write("chart.plf", bytes);
+    write("chart.txt", bytes);
+    write("chartplf", bytes.substr(0, bytes.size() - 6));  // without the year
+    write("noname.plf", bytes.substr(bytes.find('\r')));
+    std::filesystem::create_symlink("/proc/self/mem", in("x.plf"));
+    std::filesystem::create_symlink("/dev/zero", in("device.plf"));
     const QStringList bad{"critical|Please Check The File."}, noName{"information|Please Enter Your Name !"},
         missing{"critical|There is no such file.", "stays"};
     const std::tuple<std::vector<std::string>, QStringList, QString> files[]{
         {{}, {}, old},
-        {{folder_ + "/chart.plf"}, {}, "O'NEIL <b> 5 March 1985 13 30"},
-        {{folder_ + "/chart"}, {}, "O'NEIL <b> 5 March 1985 13 30"},
+        {{in("chart.plf")}, {}, "O'NEIL <b> 5 March 1985 13 30"},
+        {{in("chart")}, {}, "O'NEIL <b> 5 March 1985 13 30"},
         {{folder_, "chartplf"}, {}, "O'NEIL <b> 5 March 2001 13 30"},
-        {{folder_ + "/chart.txt"}, bad, old},
-        {{folder_ + "/x.plf"}, bad, old},
-        {{folder_ + "/device.plf"}, bad, old},
-        {{folder_ + "/missing"}, missing, old},
-        {{folder_ + "/noname.plf"}, noName, " 5 March 1985 13 30"},
+        {{in("chart.txt")}, bad, old},
+        {{in("x.plf")}, bad, old},
+        {{in("device.plf")}, bad, old},
+        {{in("missing")}, missing, old},
+        {{in("noname.plf")}, noName, " 5 March 1985 13 30"},
     };
     for (const auto& [typed, messages, after] : files) {
         enter("OLD", "1.1.2001", 13, 30);
@@ -257,19 +254,18 @@ TEST_F(InputForm, OpensChartFilesAndIsLeftAsItIsByOthers) {
         EXPECT_EQ(form_->isHidden(), messages.isEmpty() && after != old) << after.toStdString();
         if (form_->isHidden()) click("cmdBack");
     }
-    EXPECT_EQ(messagesOf([this] { QTest::keyClick(name_, '1'); }), onlyLetters);
+    EXPECT_EQ(messagesOf([this] { press("1", name_); }), onlyLetters);
     const auto expectFilter = [](QWidget& window) {
         EXPECT_EQ(dynamic_cast<QFileDialog&>(window).nameFilters(), QStringList{"Palace Lantern (*.plf)"});
         window.close();
     };
-    EXPECT_TRUE(QTest::qWaitFor([this] { return form_->isActiveWindow(); }));
-    EXPECT_EQ(withModals([this] { press(Qt::Key_O, Qt::ControlModifier); }, expectFilter), 1);
+    awaitFocus();
+    EXPECT_EQ(withModals([] { press("Ctrl+O"); }, expectFilter), 1);
 }
 
 TEST_F(InputForm, TakesOneDroppedChartFileAndRefusesOtherFiles) {
-    const QString path = QString::fromStdString(folder_ + "/chart.plf");
-    write(folder_ + "/chart.plf", chartFileBytes({u"NEW", 1985, "March", 5}));
-    const QUrl chart = QUrl::fromLocalFile(path), text = QUrl::fromLocalFile(path + ".txt");
+    write("chart.plf", chartFileBytes({u"NEW", 1985, "March", 5}));
+    const QUrl chart = QUrl::fromLocalFile(in("chart.plf").c_str());
     const auto dropAll = [this](const QList<QUrl>& urls) {
         QMimeData dragged;
         dragged.setUrls(urls);
@@ -286,11 +282,12 @@ TEST_F(InputForm, TakesOneDroppedChartFileAndRefusesOtherFiles) {
         message.close();
     };
     EXPECT_EQ(withModals(dropWithAMessage, dropBeforeAMessage), 1);
-    for (const QList<QUrl>& urls : {QList{text}, {chart, chart}, {QUrl{"https://host/chart.plf"}}})
+    for (const QList<QUrl>& urls :
+         {QList{QUrl{"file:///chart.txt"}}, {chart, chart}, {QUrl{"https://host/chart.plf"}}})
         EXPECT_FALSE(dropAll(urls));
     EXPECT_EQ(entered(), " 1 January 2001 13 30");
     EXPECT_TRUE(dropAll({chart}));
-    EXPECT_TRUE(QTest::qWaitFor([this] { return form_->isHidden(); }));
+    await([this] { return form_->isHidden(); });
     EXPECT_EQ(entered(), "NEW 5 March 1985 13 30");
 }
 
@@ -314,15 +311,15 @@ TEST_F(TwoScreens, HoldEachWindowWhereThePersonIs) {
         expectOn(to, *frame);
         frame->showNormal();
         frame->move(screens[1 - to]->geometry().topLeft() + QPoint{20, 20});
-        const auto close = [&](QWidget& window) {
+        const auto expectAndClose = [&](QWidget& window) {
             expectOn(1 - to, window);
             window.close();
         };
-        EXPECT_EQ(withModals([] { click("cmdShowAll"); }, close), 1);
-        EXPECT_EQ(withModals([] { click("cmdSavePicture"); }, close), 1);
+        for (const char* button : {"cmdShowAll", "cmdSavePicture"})
+            EXPECT_EQ(withModals([=] { click(button); }, expectAndClose), 1);
         click("cmdBack");
         expectOn(1 - to, *form);
-        EXPECT_EQ(withModals([] { click("cmdGenerateChart"); }, close), 1);  // a message
+        EXPECT_EQ(withModals([] { click("cmdGenerateChart"); }, expectAndClose), 1);  // a message
     }
 }
 
