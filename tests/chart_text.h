@@ -43,41 +43,18 @@ inline std::string cellLine(const ChartModel& chart, CellIndex cell) {
     return line;
 }
 
-// Charts worked out by hand, one after another in one run of the program: what was entered, lunar month, Life
-// and Body Palace, element, then the cells.
-struct HandChart {
-    BirthEntry entry;
-    std::string values;
-    std::array<std::string_view, cellCount> cells;
-};
-
-// clang-format off
-inline const std::array<HandChart, 2> handCharts{{
-    {birth("5.3.1985"), "5 March 1985: 1 Wei You Wood",
-     {"Health, Wu, Zi Wei/Yin, Tian Fu, Tian Gui, Yin Sha, Qing Yang, Hua ke",
-      "Wealth, Ji, Mao, Tai Yin, Wen Chang, Lu Cun, Hua Ji",
-      "Children, Geng, Chen, Tan Lang, Di Kong, Zuo Fu, Tuo Luo, Tian Guan",
-      "Marriage, Xin, Si, Ju Men, Tian Wu",
-      "Siblings, Ren, Wu, Lian Zhen, Tian Xiang, Di Jie, Ba Zuo, En Guang",
-      "Life Palace, Wood/Gui, Wei, Tian Liang, Hua Quan",
-      "Parents, Jia, Shen, Qi Sha, San Tai, Jie Shen, Tian Yue, Tian Fu",
-      "Fortune, Yi, * Body, You, Tian Tong, Feng Gao, Tian Xing",
-      "Property, Bing, Xu, Wu Qu, You Bi, Tian Yue",
-      "Career, Ding, Hai, Tai Yang, Wen Qu",
-      "Friends, Wu, Zi, Po Jun, Tian Kui",
-      "Travel, Ji, Chou, Tian Ji, Tai Fu, Tian Yao, Hua Lu"}},
-    {birth("29.2.1992", 0, 0), "29 February 1992: 1 Yin Yin Metal",  // midnight: cast for 1 March
-     {"Life Palace, Metal/Ren, * Body, Yin, Feng Gao, Yin Sha",
-      "Parents, Gui, Mao, Lian Zhen, Po Jun, Tian Gui, Tian Kui",
-      "Fortune, Jia, Chen, Wen Qu, Zuo Fu, San Tai, Hua ke",
-      "Property, Yi, Si, Tian Fu, Tian Wu, Tian Yue",
-      "Career, Bing, Wu, Tian Tong, Tai Yin, Tai Fu, Tian Fu",
-      "Friends, Ding, Wei, Wu Qu, Tan Lang, Hua Ji",
-      "Travel, Wu, Shen, Tai Yang, Ju Men, Jie Shen",
-      "Health, Ji, You, Tian Xiang, Tian Xing, En Guang",
-      "Wealth, Geng, Xu, Tian Ji, Tian Liang, Wen Chang, You Bi, Ba Zuo, Tian Yue, Qing Yang, Hua Lu, Tian Guan",
-      "Children, Xin, Zi Wei/Hai, Qi Sha, Di Jie, Di Kong, Lu Cun, Hua Quan",
-      "Marriage, Ren, Zi, Tuo Luo",
-      "Siblings, Gui, Chou, Tian Yao"}},
-}};
-// clang-format on
+// A chart worked out by hand.
+inline const BirthEntry handBirth = birth("5.3.1985");
+inline constexpr std::array<std::string_view, cellCount> handCells{
+    "Health, Wu, Zi Wei/Yin, Tian Fu, Tian Gui, Yin Sha, Qing Yang, Hua ke",
+    "Wealth, Ji, Mao, Tai Yin, Wen Chang, Lu Cun, Hua Ji",
+    "Children, Geng, Chen, Tan Lang, Di Kong, Zuo Fu, Tuo Luo, Tian Guan",
+    "Marriage, Xin, Si, Ju Men, Tian Wu",
+    "Siblings, Ren, Wu, Lian Zhen, Tian Xiang, Di Jie, Ba Zuo, En Guang",
+    "Life Palace, Wood/Gui, Wei, Tian Liang, Hua Quan",
+    "Parents, Jia, Shen, Qi Sha, San Tai, Jie Shen, Tian Yue, Tian Fu",
+    "Fortune, Yi, * Body, You, Tian Tong, Feng Gao, Tian Xing",
+    "Property, Bing, Xu, Wu Qu, You Bi, Tian Yue",
+    "Career, Ding, Hai, Tai Yang, Wen Qu",
+    "Friends, Wu, Zi, Po Jun, Tian Kui",
+    "Travel, Ji, Chou, Tian Ji, Tai Fu, Tian Yao, Hua Lu"};

@@ -1,20 +1,22 @@
-// What form tests share: finding controls by name, pressing keys, and dealing with windows that hold the
-// program up.
+// What form tests share: finding controls, pressing keys, dealing with windows that hold the program up.
 #pragma once
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 #include <QtTest>
 #include <QtWidgets>
+#include <filesystem>
+#include <fstream>
 #include <functional>
-#include <ostream>
+#include <set>
 #include <source_location>
 #include <stdexcept>
 
 #include "app/application.h"
 #include "calendar/lunar_month.h"
 #include "chart_text.h"
-#include "temporary_folder.h"
 
 using Action = std::function<void()>;
 
@@ -53,6 +55,14 @@ inline void press(const QString& keys, QWidget* control = nullptr) {
         QTest::keySequence(present(focused, "focus"), QKeySequence{key});
     }
 }
+
+// Presses keys where the focus is, and returns the name of what has it then.
+inline QString focusAfter(const QString& keys) {
+    press(keys);
+    return present(QApplication::focusWidget(), "focus")->objectName();
+}
+
+inline QString textOf(const QString& label) { return find<QLabel>(label)->text(); }
 
 // Chooses an entry of a window's menus, which acts through the event loop.
 inline void choose(const QString& window, const QString& entry) {
@@ -122,6 +132,42 @@ inline QStringList messagesOf(const Action& action, const std::vector<std::strin
     return seen;
 }
 
+using Names = std::set<std::string>;
+
+// A folder of a test's own, gone with all that is in it at the end. Its name has a dot, as a person's may.
+class TemporaryFolder : public testing::Test {
+  protected:
+    TemporaryFolder() { EXPECT_NE(::mkdtemp(folder_.data()), nullptr); }
+    ~TemporaryFolder() override { std::filesystem::remove_all(folder_); }
+
+    // The path of something in the folder.
+    std::string in(const std::string& name) const { return folder_ + "/" + name; }
+
+    void write(const std::string& name, const std::string& bytes) const { std::ofstream{in(name)} << bytes; }
+    std::string read(const std::string& name) const {
+        return {std::istreambuf_iterator<char>{std::ifstream{in(name)}.rdbuf()}, {}};
+    }
+
+    // All that is in the folder.
+    Names names() const {
+        Names found;
+        for (const auto& entry : std::filesystem::directory_iterator{folder_})
+            found.insert(entry.path().filename());
+        return found;
+    }
+
+    // Runs the action while the folder takes no new files, and without root's rights to everything.
+    void inClosedFolder(const Action& action) const {
+        const uid_t own = ::getuid(), other = own == 0 ? 65534 : own;
+        EXPECT_EQ(::chown(folder_.c_str(), other, ::getgid()) | ::chmod(folder_.c_str(), 0500), 0);
+        EXPECT_EQ(::setresuid(other, other, own), 0);
+        action();
+        EXPECT_EQ(::setresuid(own, own, own) | ::chmod(folder_.c_str(), 0700), 0);
+    }
+
+    std::string folder_ = testing::TempDir() + "palace.lantern-XXXXXX";
+};
+
 inline const QStringList dateAndTime{"cmbDate", "cmbMonth", "cmbYear", "cmbHour", "cmbMinute"};
 
 // Enters a birth into the input form.
@@ -148,7 +194,7 @@ class Program : public TemporaryFolder {
         EXPECT_TRUE(QTest::qWaitForWindowActive(find("frmMain")));
     }
 
-    // Casts the first of the charts worked out by hand, or another one.
+    // Casts the chart worked out by hand, or another one.
     static void showChart(const std::string& date = "5.3.1985", int hour = 13, int minute = 1,
                           const QString& name = "JOHN SMITH") {
         enter(name, date, hour, minute);

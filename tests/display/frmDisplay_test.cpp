@@ -1,7 +1,11 @@
-// The chart window: what it shows of a chart, and how a person moves about in it.
+// The chart window: what it shows of a chart, the room and colours of its labels in the real font, and how a
+// person moves about in it.
 
 #include "display/frmDisplay.h"
 
+#include <map>
+
+#include "display/label_places.h"
 #include "form_driver.h"
 #include "style/controls.h"
 
@@ -10,7 +14,7 @@ namespace {
 class ChartWindow : public testing::Test {
   protected:
     void show(const QSize& room = {1100, 800}, std::u16string name = u"JOHN SMITH") {
-        const BirthEntry entry{std::move(name), handCharts[0].entry.date, 13, 1};
+        const BirthEntry entry{std::move(name), handBirth.date, 13, 1};
         LunarMonth = 0;
         EXPECT_TRUE(generateChart(entry, chart_).has_value());
         display_ = std::make_unique<frmDisplay>(chart_, entry);
@@ -19,7 +23,6 @@ class ChartWindow : public testing::Test {
         EXPECT_TRUE(QTest::qWaitForWindowActive(display_.get()));
         client_ = display_->findChild<QScrollArea*>();
     }
-    static QString text(const QString& label) { return find<QLabel>(label)->text(); }
     static QWidget* cover(int cell) { return find(QString("lblCover(%1)").arg(cell)); }
 
     ChartModel chart_;
@@ -40,7 +43,7 @@ TEST_F(ChartWindow, ShowsTheWholeChartAndTellsItInSentences) {
     QStringList header;
     for (const char* label : {"lblName", "lblDateOfBirth", "lblTimeOfBirth", "lblElement", "lblYear",
                               "lblMonth", "lblLifePalaceat", "lblBodyPalaceat"})
-        header += text(label);
+        header += textOf(label);
     EXPECT_EQ(header.join("|"), " <b>X</b>&amp; |March/5/1985|13:1|Wood|1985|1|Wei|You");
     EXPECT_TRUE(cover(0)->accessibleName().startsWith("Health palace, Yin, stem Wu: Zi Wei, Tian Fu, "));
     EXPECT_TRUE(cover(5)->accessibleName().startsWith("Life Palace, Wei, stem Gui, element Wood: Tian L"));
@@ -51,7 +54,7 @@ TEST_F(ChartWindow, ShowsTheWholeChartAndTellsItInSentences) {
 TEST_F(ChartWindow, HintsAtWhatThePointerIsOnOrTheKeysLedTo) {
     show();
     const auto expectHint = [](const char* hint) {
-        EXPECT_TRUE(QTest::qWaitFor([hint] { return text("lblCaption") == hint; }, 2000)) << hint;
+        EXPECT_TRUE(QTest::qWaitFor([hint] { return textOf("lblCaption") == hint; }, 2000)) << hint;
     };
     const char* onGround = "Hold Your Mouse Button On The Palace";
     const char* onCell = "Click To Know More Abut This Palace And Stars";
@@ -99,6 +102,78 @@ TEST_F(ChartWindow, IsAsLargeAsFitsAndScrollsOnlyWhereItCouldNotBeRead) {
     const int before = bar->value();
     QTest::mouseClick(cover(6), Qt::LeftButton, {}, {2, 2});
     EXPECT_EQ(bar->value(), before) << "what is pressed stays under the pointer";
+}
+
+using Labels = ChartWindow;
+
+// Every text that each label ever shows.
+std::map<std::string_view, std::set<QString>> allTexts() {
+    std::map<std::string_view, std::set<QString>> texts;
+    for (int day = 0; day < 1000; ++day) {
+        const ChartModel chart = cast({u"A", {day % 28, day % 12, day % yearCount}, 1 + day % 23, 0});
+        for (const ChartCell& cell : chart.cells) {
+            for (const CellField& field : cellFields)
+                texts[field.name].insert(latinLines(shownIn(cell, field)));
+        }
+    }
+    return texts;
+}
+
+TEST_F(Labels, HaveRoomInACellAllAtOnce) {
+    show();
+    const auto texts = allTexts();
+    const QSize menu{0, find<QMenuBar>()->sizeHint().height()};
+    const int dots = qRound(display_->devicePixelRatioF());
+    for (int scale = std::max(6, 10 / dots); scale <= 40 / dots; ++scale) {  // up to screens of 3840 x 2160
+        display_->fitInto(ChartScale{scale}.chartSize() + menu);
+        QRegion taken;
+        for (const CellLabel& row : cellLabels) {
+            auto* label = find<QLabel>(latin(row.name) + "(0)");  // in the cell of Zi Wei
+            const QRect place = label->geometry();
+            EXPECT_TRUE(label->parentWidget()->rect().contains(place)) << row.name << scale;
+            EXPECT_FALSE(taken.intersects(place)) << row.name << " meets another label at " << scale;
+            taken += place;
+            for (const QString& text : texts.at(row.name)) {
+                label->setText(text);
+                const QSize needed = label->sizeHint() - QSize{0, 1};  // what a line can spare
+                EXPECT_EQ(needed.boundedTo(place.size()), needed) << text.toStdString() << " at " << scale;
+            }
+        }
+    }
+}
+
+TEST_F(Labels, CanBeReadOnALightChartEvenOnADarkDesktop) {
+    const QPalette before = QApplication::palette();
+    QApplication::setPalette(QPalette{QColor{40, 40, 40}});
+    show();
+    int count = 0;
+    for (const QLabel* shown : display_->findChildren<QLabel*>()) {
+        if (shown->text().isEmpty() || !shown->isVisible()) continue;
+        ++count;
+        const QImage ground = shown->parentWidget()->grab().toImage();
+        const QColor paper = ground.pixelColor(2, ground.height() / 2);  // left of all text
+        const QColor letters = shown->palette().color(shown->foregroundRole());
+        EXPECT_GE(look::contrast(paper, letters), 4.5) << shown->objectName().toStdString();
+    }
+    EXPECT_GT(count, 80);
+    QApplication::setPalette(before);
+}
+
+TEST(Look, MakesSelectionsAndTitlesLegible) {
+    EXPECT_NEAR(look::contrast(QColor{0x76, 0x76, 0x76}, Qt::white), 4.54, 0.01);
+    for (const auto& [ground, letters] :
+         {std::pair{QColor{53, 132, 228}, Qt::white}, {Qt::cyan, Qt::black}}) {
+        QPalette desktop{ground};
+        desktop.setColor(QPalette::Highlight, ground);
+        desktop.setColor(QPalette::HighlightedText, letters);
+        desktop.setColor(QPalette::Text, Qt::white);
+        const QPalette mended = look::legibleSelection(desktop), title = look::legibleTitle(desktop);
+        const QColor behind = mended.color(QPalette::Highlight);
+        EXPECT_GE(look::contrast(behind, mended.color(QPalette::HighlightedText)), 4.5);
+        EXPECT_EQ(behind == ground, ground == Qt::cyan) << "only that one is legible as it is";
+        for (const auto role : {QPalette::Highlight, QPalette::Text})
+            EXPECT_GE(look::contrast(title.color(role), Qt::white), 4.5);
+    }
 }
 
 }  // namespace

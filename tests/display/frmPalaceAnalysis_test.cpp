@@ -83,7 +83,7 @@ class Analysis : public Program {
     // The pages' texts; the last one ends what comes before it.
     QStringList pages() const { return paper().split("\f").mid(0, paper().count("\f")); }
 
-    const ChartModel chart_ = cast(handCharts[0].entry);
+    const ChartModel chart_ = cast(handBirth);
     const QString pdf_ = in("paper.pdf").c_str();
 };
 
