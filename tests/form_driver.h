@@ -10,7 +10,6 @@
 #include <filesystem>
 #include <fstream>
 #include <functional>
-#include <set>
 #include <source_location>
 #include <stdexcept>
 
@@ -54,12 +53,6 @@ inline void press(const QString& keys, QWidget* control = nullptr) {
         QWidget* focused = control != nullptr ? control : QApplication::focusWidget();
         QTest::keySequence(present(focused, "focus"), QKeySequence{key});
     }
-}
-
-// Presses keys where the focus is, and returns the name of what has it then.
-inline QString focusAfter(const QString& keys) {
-    press(keys);
-    return present(QApplication::focusWidget(), "focus")->objectName();
 }
 
 inline QString textOf(const QString& label) { return find<QLabel>(label)->text(); }
@@ -132,29 +125,15 @@ inline QStringList messagesOf(const Action& action, const std::vector<std::strin
     return seen;
 }
 
-using Names = std::set<std::string>;
-
 // A folder of a test's own, gone with all that is in it at the end. Its name has a dot, as a person's may.
 class TemporaryFolder : public testing::Test {
   protected:
-    TemporaryFolder() { EXPECT_NE(::mkdtemp(folder_.data()), nullptr); }
-    ~TemporaryFolder() override { std::filesystem::remove_all(folder_); }
-
-    // The path of something in the folder.
     std::string in(const std::string& name) const { return folder_ + "/" + name; }
-
     void write(const std::string& name, const std::string& bytes) const { std::ofstream{in(name)} << bytes; }
     std::string read(const std::string& name) const {
         return {std::istreambuf_iterator<char>{std::ifstream{in(name)}.rdbuf()}, {}};
     }
-
-    // All that is in the folder.
-    Names names() const {
-        Names found;
-        for (const auto& entry : std::filesystem::directory_iterator{folder_})
-            found.insert(entry.path().filename());
-        return found;
-    }
+    QStringList names() const { return QDir{dir_.path()}.entryList(QDir::AllEntries | QDir::NoDotAndDotDot); }
 
     // Runs the action while the folder takes no new files, and without root's rights to everything.
     void inClosedFolder(const Action& action) const {
@@ -165,7 +144,8 @@ class TemporaryFolder : public testing::Test {
         EXPECT_EQ(::setresuid(own, own, own) | ::chmod(folder_.c_str(), 0700), 0);
     }
 
-    std::string folder_ = testing::TempDir() + "palace.lantern-XXXXXX";
+    const QTemporaryDir dir_{QDir::tempPath() + "/palace.lantern-XXXXXX"};
+    const std::string folder_ = dir_.path().toStdString();
 };
 
 inline const QStringList dateAndTime{"cmbDate", "cmbMonth", "cmbYear", "cmbHour", "cmbMinute"};

@@ -17,15 +17,11 @@ int main(int argc, char* argv[]) {
     for (const char* kind : {"XDG_CONFIG_HOME", "XDG_DATA_HOME"}) qputenv(kind, settings.path().toUtf8());
     Toolkit toolkit{argc, argv};
     prepareToolkit();
-    // A dialog that a test waits for in vain to close fails it within seconds. Events are counted, not time,
-    // so that a slow machine is not taken for it.
-    QWidget* before = nullptr;
-    int ticks = 0;
+    // A dialog that stays open fails the test within seconds, counted in ticks for the sake of slow machines.
     QTimer patience;
-    patience.callOnTimeout([&] {
+    patience.callOnTimeout([before = static_cast<QDialog*>(nullptr), ticks = 0]() mutable {
         auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-        const bool same = std::exchange(before, dialog) == dialog;
-        ticks = same && dialog != nullptr ? ticks + 1 : 0;
+        ticks = dialog == std::exchange(before, dialog) && dialog != nullptr ? ticks + 1 : 0;
         if (ticks < 80) return;
         ADD_FAILURE() << "stays open: " << dialog->windowTitle().toStdString();
         dialog->reject();

@@ -136,6 +136,10 @@ TEST_F(Program, DoesOneThingAtATime) {
 
 TEST_F(Program, LeavesAndEntersTheChartByOneTabAndHearsItsKeysOnTheStrip) {
     showChart();
+    const auto focusAfter = [](const char* key) {
+        press(key);
+        return present(QApplication::focusWidget(), "focus")->objectName();
+    };
     find("cmdMdiExit")->setFocus();
     EXPECT_EQ(focusAfter("Tab"), "lblCover(0)");
     EXPECT_EQ(focusAfter("Right"), "lblCover(11)");

@@ -12,13 +12,6 @@
 
 namespace {
 
-// The 32-bit FNV-1a.
-std::uint32_t sumOf(std::string_view text) {
-    std::uint32_t sum = 0x811c9dc5;
-    for (const char letter : text) sum = (sum ^ static_cast<unsigned char>(letter)) * 0x01000193;
-    return sum;
-}
-
 // A letter that changes, or a text in another's place, shows in the sum of its palace or star.
 TEST(Texts, KeepEachLetterAndTheirPlaces) {
     std::vector<std::string> texts{std::string{introText}, std::string{bodyPalaceText}};
