@@ -63,15 +63,12 @@ inline void choose(const QString& window, const QString& entry) {
     QCoreApplication::processEvents();
 }
 
-inline void closeWindow(QWidget& window) { window.close(); }
-
 // Runs `action` and, while it waits for modal windows, `act` on each that comes to the front: it may close
-// the window, or leave that to the next time. Returns how often there was one.
-inline int withModals(const Action& action, const std::function<void(QWidget&)>& act = closeWindow) {
+// the window, or leave that to the next time.
+inline void withModals(const Action& action, const std::function<void(QWidget&)>& act) {
     static int watching = 0;
     const int level = ++watching;
     const auto watched = qScopeGuard([] { --watching; });
-    int count = 0;
     QWidget* actedOn = QApplication::activeModalWidget();
     std::exception_ptr failure;
     QObject watch;
@@ -79,7 +76,6 @@ inline int withModals(const Action& action, const std::function<void(QWidget&)>&
         QTimer::singleShot(10, &watch, look);  // before all else, which may wait for another window
         QWidget* window = QApplication::activeModalWidget();
         if (watching != level || window == nullptr || !window->isVisible() || window == actedOn) return;
-        ++count;
         QWidget* const before = std::exchange(actedOn, window);
         window->activateWindow();  // which some window managers leave out where windows change quickly
         await([=] { return window->isActiveWindow(); });
@@ -95,7 +91,22 @@ inline int withModals(const Action& action, const std::function<void(QWidget&)>&
     action();
     QCoreApplication::processEvents();
     if (failure) std::rethrow_exception(failure);
-    return count;
+}
+
+// Expects that `action` brings up one modal window, soon or late, and runs `act` on it, which closes it.
+inline void withOne(const Action& action, const std::function<void(QWidget&)>& act = &QWidget::close,
+                    const std::source_location& where = std::source_location::current()) {
+    int count = 0;
+    const auto actAndWait = [&] {
+        action();
+        (void)QTest::qWaitFor([&] { return count > 0; });
+    };
+    const auto actAndCount = [&](QWidget& window) {
+        ++count;
+        act(window);
+    };
+    withModals(actAndWait, actAndCount);
+    EXPECT_EQ(count, 1) << where.file_name() << ":" << where.line();
 }
 
 // The messages that `action` brings up, as "icon|text" under the usual title, each closed by Escape, a
@@ -178,7 +189,7 @@ class Program : public TemporaryFolder {
     static void showChart(const std::string& date = "5.3.1985", int hour = 13, int minute = 1,
                           const QString& name = "JOHN SMITH") {
         enter(name, date, hour, minute);
-        EXPECT_EQ(withModals([] { choose("frmMain", "mnuGenerateChart"); }), 0);
+        EXPECT_EQ(messagesOf([] { choose("frmMain", "mnuGenerateChart"); }), QStringList{});
         QWidget* frame = find("frmMdi");
         EXPECT_TRUE(QTest::qWaitForWindowActive(frame));
         await([] { return find("cmdShowAll")->hasFocus(); });

@@ -45,6 +45,16 @@ TEST(Tradition, HasStemsBureausAndStarsAsTheyAre) {
     EXPECT_EQ(sum, 0xbb76b626U);
 }
 
+TEST(Tradition, HasTheLunarMonthsOfEachDate) {
+    std::string months;
+    for (int i = 0; i < yearCount * monthCount * dayCount; ++i) {
+        LunarMonth = 0;
+        FindLunarMonth({i % dayCount, i / dayCount % monthCount, i / dayCount / monthCount});
+        months += std::to_string(LunarMonth) + ' ';
+    }
+    EXPECT_EQ(sumOf(months), 0xe88e5f04U);
+}
+
 const BirthEntry first = handBirth, other = birth("24.12.2003");
 
 // The program as it has just been started.

