@@ -11,7 +11,9 @@ using Start = TemporaryFolder;
 TEST_F(Start, IsOfOneProgramAlsoWithoutARuntimeFolder) {
     const QByteArray before = qgetenv("XDG_RUNTIME_DIR");
     qputenv("TMPDIR", folder_.c_str());
-    QLockFile others{QDir::temp().filePath("palace-lantern-" + QDir::home().dirName() + ".lock")};
+    write("runtime-" + QFileInfo{dir_.path()}.owner().toStdString(),
+          "no folder, so there is none by default");
+    QLockFile others{in("palace-lantern.lock").c_str()};
     EXPECT_TRUE(others.tryLock()) << "what lies in a folder that all users share may be another's";
     for (const std::string& runtime : {in("missing/folder"), std::string{"/proc"}, std::string{}}) {
         runtime.empty() ? qunsetenv("XDG_RUNTIME_DIR") : qputenv("XDG_RUNTIME_DIR", runtime.c_str());
@@ -41,8 +43,11 @@ TEST_F(Start, TakesOneChartFile) {
     write("chart.plf", chartFileBytes({u"JOHN SMITH", 1985, "March", 5}));
     write("empty.plf", "");
     const QString chart = in("chart.plf").c_str();
-    for (const QStringList& wrong : {QStringList{"--shout"}, {chart, chart}})
-        EXPECT_EQ(QProcess::execute(PROGRAM_PATH, wrong), 1);
+    for (const QStringList& wrong : {QStringList{"--shout"}, {chart, chart}}) {
+        QProcess program;
+        program.start(PROGRAM_PATH, wrong);
+        EXPECT_TRUE(program.waitForFinished(9000) && program.exitCode() == 1);
+    }
     const std::tuple<std::string, QStringList, QString, QString> files[]{
         {in("chart.plf"), {}, "JOHN SMITH 5 March 1985 0 0", "cmbHour"},
         {in("empty.plf"), {"information|Please Enter Your Name !"}, " 1 January 1970 0 0", "txtName"},
