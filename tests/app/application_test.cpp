@@ -136,7 +136,6 @@ TEST_F(Program, DoesOneThingAtATime) {
     for (int opener = 0; opener < 3; ++opener) withOne([&] { buttons[opener]->click(); }, cancel);
     buttons.last()->click();
     EXPECT_EQ(messagesOf(pressAll), QStringList{});
-    EXPECT_TRUE(find("frmMain")->isVisible());
 }
 
 TEST_F(Program, LeavesAndEntersTheChartByOneTabAndHearsItsKeysOnTheStrip) {
@@ -196,7 +195,7 @@ TEST_F(Program, OpensThePageOfEachEntryFromEachWindow) {
     write("xdg-open", "#!/bin/sh\necho $1 >" + in("page") + "; [ ! -e " + in("fail") + " ]");
     std::filesystem::permissions(in("xdg-open"), std::filesystem::perms::owner_all);
     const QString installed =
-        QDir::cleanPath(QCoreApplication::applicationDirPath() + "/../../share/palace-lantern/help/");
+        QDir::cleanPath(qApp->applicationDirPath() + "/../../share/palace-lantern/help");
     const auto expectPage = [&](const char* name, const Action& action) {
         std::filesystem::remove(in("page"));
         action();

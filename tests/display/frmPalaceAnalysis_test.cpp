@@ -193,14 +193,12 @@ TEST_F(Analysis, IsReadInAnySizeAndPrintedInItsOwnAsFarAsItIsSelected) {
         const double own = size();
         EXPECT_EQ(text.textCursor().position() + top(), 0) << "read from its top";
         text.setTextCursor(text.document()->find(words));
-        const int place = text.textCursor().position();
         text.verticalScrollBar()->setValue(text.verticalScrollBar()->maximum() * 2 / 3);
         const int topBefore = top();
         press("Ctrl+=");
         EXPECT_DOUBLE_EQ(size(), own * 1.1);
         EXPECT_EQ(top(), topBefore);
         EXPECT_EQ(text.textCursor().selectedText(), words);
-        EXPECT_EQ(text.textCursor().position(), place);
         turn(3, -40, Qt::ControlModifier);  // as a touchpad does
         EXPECT_DOUBLE_EQ(size(), own);
         turn(4, -120, Qt::ControlModifier);
@@ -226,7 +224,6 @@ TEST_F(Analysis, IsReadInAnySizeAndPrintedInItsOwnAsFarAsItIsSelected) {
 
 TEST_F(Analysis, IsPrintedWithinMarginsAndNothingThatBelongsTogetherIsParted) {
     open([this](QTextEdit&) { print(); });
-    EXPECT_GE(pages().size(), 3);
     static const QRegularExpression heading{"^[^\n]*(Palace|Star) :- "};
     for (const QString& page : pages().mid(1)) EXPECT_TRUE(page.contains(heading)) << page.toStdString();
     static const QRegularExpression place{"xMin=\"(.*?)\" yMin=\"(.*?)\""};

@@ -52,10 +52,8 @@ class InputForm : public Program {
 
 TEST_F(InputForm, OpensOnTheFirstEntriesAndTurnsOnlyTheListInFocus) {
     QString entries = entered();
-    for (const QString& name : dateAndTime) {
-        const auto* list = find<QComboBox>(name);
-        entries += " .." + list->itemText(list->count() - 1);
-    }
+    for (const QString& name : dateAndTime)
+        entries += " .." + find<QComboBox>(name)->itemText(find<QComboBox>(name)->count() - 1);
     EXPECT_EQ(entries, " 1 January 1970 0 0 ..31 ..December ..2012 ..23 ..59");
     auto* year = find<QComboBox>("cmbYear");
     const QPointF place = year->mapTo(form_, QPoint{5, 5});
