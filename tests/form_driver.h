@@ -1,19 +1,32 @@
-// What form tests share: finding controls by name, and dealing with windows that hold the program up.
+// What form tests share: finding controls, pressing keys, dealing with windows that hold the program up.
 #pragma once
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 #include <QtTest>
 #include <QtWidgets>
+#include <filesystem>
+#include <fstream>
 #include <functional>
-#include <ostream>
+#include <source_location>
+#include <stdexcept>
 
 #include "app/application.h"
 #include "calendar/lunar_month.h"
 #include "chart_text.h"
-#include "temporary_folder.h"
+
+using Action = std::function<void()>;
 
 inline void PrintTo(const QString& text, std::ostream* out) { *out << '"' << text.toStdString() << '"'; }
+
+// What the test can't go on without.
+template <class Object>
+Object* present(Object* object, const QString& name) {
+    if (object == nullptr) throw std::runtime_error{"There is no \"" + name.toStdString() + "\"."};
+    return object;
+}
 
 // The control of that name, one that is seen rather than another; any of its kind without a name.
 template <class Control = QWidget>
@@ -24,48 +37,82 @@ Control* find(const QString& name = {}) {
         auto* control = fits ? qobject_cast<Control*>(widget) : nullptr;
         if (control != nullptr && (found == nullptr || widget->isVisible())) found = control;
     }
-    EXPECT_NE(found, nullptr) << name.toStdString();
-    return found;
+    return present(found, name);
+}
+
+inline void await(const std::function<bool()>& comesTrue,
+                  const std::source_location& where = std::source_location::current()) {
+    EXPECT_TRUE(QTest::qWaitFor(comesTrue)) << where.file_name() << ":" << where.line();
 }
 
 inline void click(const QString& name) { QTest::mouseClick(find(name), Qt::LeftButton); }
 
+// Presses keys such as "Tab Ctrl+S" in a control or else each where the focus then is.
+inline void press(const QString& keys, QWidget* control = nullptr) {
+    for (const QString& key : keys.split(' ')) {
+        QWidget* focused = control != nullptr ? control : QApplication::focusWidget();
+        QTest::keySequence(present(focused, "focus"), QKeySequence{key});
+    }
+}
+
+inline QString textOf(const QString& label) { return find<QLabel>(label)->text(); }
+
 // Chooses an entry of a window's menus, which acts through the event loop.
 inline void choose(const QString& window, const QString& entry) {
-    find(window)->findChild<QAction*>(entry)->trigger();
+    present(find(window)->findChild<QAction*>(entry), entry)->trigger();
     QCoreApplication::processEvents();
 }
 
 // Runs `action` and, while it waits for modal windows, `act` on each that comes to the front: it may close
-// the window, or leave that to the next time. Returns how often there was one.
-inline int withModals(const std::function<void()>& action, const std::function<void(QWidget&)>& act) {
+// the window, or leave that to the next time.
+inline void withModals(const Action& action, const std::function<void(QWidget&)>& act) {
     static int watching = 0;
     const int level = ++watching;
-    int count = 0;
+    const auto watched = qScopeGuard([] { --watching; });
     QWidget* actedOn = QApplication::activeModalWidget();
+    std::exception_ptr failure;
     QObject watch;
-    std::function<void()> look = [&] {
+    Action look = [&] {
         QTimer::singleShot(10, &watch, look);  // before all else, which may wait for another window
         QWidget* window = QApplication::activeModalWidget();
         if (watching != level || window == nullptr || !window->isVisible() || window == actedOn) return;
-        ++count;
         QWidget* const before = std::exchange(actedOn, window);
         window->activateWindow();  // which some window managers leave out where windows change quickly
-        EXPECT_TRUE(QTest::qWaitFor([window] { return window->isActiveWindow(); }));
-        act(*window);
+        await([=] { return window->isActiveWindow(); });
+        try {
+            act(*window);
+        } catch (const std::exception&) {  // the toolkit lets none through
+            failure = std::current_exception();
+            dynamic_cast<QDialog&>(*window).reject();
+        }
         actedOn = before;
     };
     QTimer::singleShot(10, &watch, look);
     action();
     QCoreApplication::processEvents();
-    --watching;
-    return count;
+    if (failure) std::rethrow_exception(failure);
+}
+
+// Expects that `action` brings up one modal window, soon or late, and runs `act` on it, which closes it.
+inline void withOne(const Action& action, const std::function<void(QWidget&)>& act = &QWidget::close,
+                    const std::source_location& where = std::source_location::current()) {
+    int count = 0;
+    const auto actAndWait = [&] {
+        action();
+        (void)QTest::qWaitFor([&] { return count > 0; });
+    };
+    const auto actAndCount = [&](QWidget& window) {
+        ++count;
+        act(window);
+    };
+    withModals(actAndWait, actAndCount);
+    EXPECT_EQ(count, 1) << where.file_name() << ":" << where.line();
 }
 
 // The messages that `action` brings up, as "icon|text" under the usual title, each closed by Escape, a
 // question by Enter, which means No, or by Yes. A file dialog among them is given what is to be typed, one
 // text after another, and is cancelled where it stays.
-inline QStringList messagesOf(const std::function<void()>& action, const std::vector<std::string>& typed = {},
+inline QStringList messagesOf(const Action& action, const std::vector<std::string>& typed = {},
                               bool yes = false) {
     const QStringList icons{"none", "information", "warning", "critical", "question"};
     QStringList seen;
@@ -73,24 +120,44 @@ inline QStringList messagesOf(const std::function<void()>& action, const std::ve
     withModals(action, [&](QWidget& window) {
         if (const auto* box = qobject_cast<QMessageBox*>(&window)) {
             EXPECT_EQ(box->textFormat(), Qt::PlainText);
-            const QString title =
-                box->windowTitle() == "Palace Lantern Message" ? "" : box->windowTitle() + "|";
-            seen += title + icons[box->icon()] + "|" + box->text();
-            if (box->icon() == QMessageBox::Question && yes) return box->button(QMessageBox::Yes)->click();
-            if (box->icon() == QMessageBox::Question) return QTest::keyClick(&window, Qt::Key_Return);
-        } else if (auto* name = window.findChild<QLineEdit*>("fileNameEdit"); name == nullptr) {
-            ADD_FAILURE() << window.windowTitle().toStdString();
-        } else if (next != typed.end()) {
-            EXPECT_TRUE(QTest::qWaitFor([name] { return name->hasFocus(); }));
+            const bool usual = box->windowTitle() == "Palace Lantern Message";
+            seen += (usual ? "" : box->windowTitle() + "|") + icons[box->icon()] + "|" + box->text();
+            if (box->icon() == QMessageBox::Question)
+                return yes ? box->button(QMessageBox::Yes)->click() : press("Return");
+        } else if (auto* name = find<QLineEdit>("fileNameEdit"); next != typed.end()) {
+            await([name] { return name->hasFocus(); });
             name->setText(QString::fromStdString(*next++));
-            return QTest::keyClick(name, Qt::Key_Return);
+            return press("Return");
         } else if (!typed.empty()) {
             seen += name->text().toStdString() == typed.back() ? "stays" : "loses the name";
         }
-        QTest::keyClick(&window, Qt::Key_Escape);
+        press("Escape", &window);
     });
     return seen;
 }
+
+// A folder of a test's own, gone with all that is in it at the end. Its name has a dot, as a person's may.
+class TemporaryFolder : public testing::Test {
+  protected:
+    std::string in(const std::string& name) const { return folder_ + "/" + name; }
+    void write(const std::string& name, const std::string& bytes) const { std::ofstream{in(name)} << bytes; }
+    std::string read(const std::string& name) const {
+        return {std::istreambuf_iterator<char>{std::ifstream{in(name)}.rdbuf()}, {}};
+    }
+    QStringList names() const { return QDir{dir_.path()}.entryList(QDir::AllEntries | QDir::NoDotAndDotDot); }
+
+    // Runs the action while the folder takes no new files, and without root's rights to everything.
+    void inClosedFolder(const Action& action) const {
+        const uid_t own = ::getuid(), other = own == 0 ? 65534 : own;
+        EXPECT_EQ(::chown(folder_.c_str(), other, ::getgid()) | ::chmod(folder_.c_str(), 0500), 0);
+        EXPECT_EQ(::setresuid(other, other, own), 0);
+        action();
+        EXPECT_EQ(::setresuid(own, own, own) | ::chmod(folder_.c_str(), 0700), 0);
+    }
+
+    const QTemporaryDir dir_{QDir::tempPath() + "/palace.lantern-XXXXXX"};
+    const std::string folder_ = dir_.path().toStdString();
+};
 
 inline const QStringList dateAndTime{"cmbDate", "cmbMonth", "cmbYear", "cmbHour", "cmbMinute"};
 
@@ -118,14 +185,13 @@ class Program : public TemporaryFolder {
         EXPECT_TRUE(QTest::qWaitForWindowActive(find("frmMain")));
     }
 
-    // Casts the first of the charts worked out by hand, or another one.
-    static void showChart(const std::string& date = "5.3.1985", int hour = 13, int minute = 1) {
-        enter("JOHN SMITH", date, hour, minute);
-        const auto choosing = [] { choose("frmMain", "mnuGenerateChart"); };
-        EXPECT_EQ(withModals(choosing, [](QWidget& window) { window.close(); }), 0);
+    // Casts the chart worked out by hand, or another one.
+    static void showChart(const std::string& date = "5.3.1985", int hour = 13, int minute = 1,
+                          const QString& name = "JOHN SMITH") {
+        enter(name, date, hour, minute);
+        EXPECT_EQ(messagesOf([] { choose("frmMain", "mnuGenerateChart"); }), QStringList{});
         QWidget* frame = find("frmMdi");
-        EXPECT_TRUE(QTest::qWaitForWindowActive(frame));
-        EXPECT_TRUE(QTest::qWaitFor([] { return find("cmdShowAll")->hasFocus(); }));
+        await([] { return find("cmdShowAll")->hasFocus(); });
         // Window managers take their time to maximise; those that never do are not waited for.
         (void)QTest::qWaitFor([=] { return frame->frameGeometry() == frame->screen()->availableGeometry(); },
                               500);

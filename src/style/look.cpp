@@ -87,6 +87,7 @@ QPalette legibleTitle(const QPalette& desktop) {
     QPalette palette = desktop;
     if (contrast(desktop.color(QPalette::Highlight), Qt::white) < legible)
         palette.setColor(QPalette::Highlight, blue);
+    palette.setColor(QPalette::HighlightedText, Qt::white);
     if (luminance(desktop.color(QPalette::Text)) > 0.18) palette.setColor(QPalette::Text, ink);
     return palette;
 }

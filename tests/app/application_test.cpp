@@ -1,113 +1,167 @@
-// The frame, and the ways through the program, to its help and out of it.
+// The start, the frame, and the ways through the program, to its help and out of it.
 
+#include "app/start_rules.h"
+#include "files/chart_file.h"
 #include "form_driver.h"
 
 namespace {
 
+using Start = TemporaryFolder;
+
+TEST_F(Start, IsOfOneProgramAlsoWithoutARuntimeFolder) {
+    const QByteArray before = qgetenv("XDG_RUNTIME_DIR");
+    qputenv("TMPDIR", folder_.c_str());
+    write("runtime-" + QFileInfo{dir_.path()}.owner().toStdString(),
+          "no folder, so there is none by default");
+    QLockFile others{in("palace-lantern.lock").c_str()};
+    EXPECT_TRUE(others.tryLock()) << "what lies in a folder that all users share may be another's";
+    for (const std::string& runtime : {in("missing/folder"), std::string{"/proc"}, std::string{}}) {
+        runtime.empty() ? qunsetenv("XDG_RUNTIME_DIR") : qputenv("XDG_RUNTIME_DIR", runtime.c_str());
+        const SingleInstance first, second;
+        EXPECT_FALSE(first.anotherIsRunning()) << runtime;
+        EXPECT_TRUE(second.anotherIsRunning()) << runtime;
+    }
+    qunsetenv("TMPDIR");
+    qputenv("XDG_RUNTIME_DIR", before);
+}
+
+TEST_F(Start, NeedsTheConverterAsAFile) {
+    const QString self = QCoreApplication::applicationFilePath(), copy = in("copy").c_str();
+    if (!self.endsWith("/copy")) {  // which has no converter beside it
+        EXPECT_TRUE(requiredFileIsPresent() && QFile::copy(self, copy));
+        EXPECT_EQ(QProcess::execute(copy, {"--gtest_filter=Start.NeedsTheConverterAsAFile"}), 0);
+        return;
+    }
+    for (int time = 0; time < 2; ++time) {
+        EXPECT_EQ(messagesOf([] { EXPECT_FALSE(requiredFileIsPresent()); }),
+                  QStringList{"critical|Required File Is Missing\nPlease Reinstall Software"});
+        EXPECT_EQ(QDir{}.mkdir(converterPath()), time == 0);
+    }
+}
+
+TEST_F(Start, TakesOneChartFile) {
+    write("chart.plf", chartFileBytes({u"JOHN SMITH", 1985, "March", 5}));
+    write("empty.plf", "");
+    const QString chart = in("chart.plf").c_str();
+    for (const QStringList& wrong : {QStringList{"--shout"}, {chart, chart}}) {
+        QProcess program;
+        program.start(PROGRAM_PATH, wrong);
+        EXPECT_TRUE(program.waitForFinished(9000) && program.exitCode() == 1);
+    }
+    const std::tuple<std::string, QStringList, QString, QString> files[]{
+        {in("chart.plf"), {}, "JOHN SMITH 5 March 1985 0 0", "cmbHour"},
+        {in("empty.plf"), {"information|Please Enter Your Name !"}, " 1 January 1970 0 0", "txtName"},
+        {"/none.plf", {"critical|Please Check The File."}, " 1 January 1970 0 0", "txtName"},
+    };
+    for (const auto& [file, messages, after, focus] : files) {
+        Application application;
+        EXPECT_EQ(messagesOf([&] { application.start(file.c_str()); }), messages) << file;
+        EXPECT_EQ(entered(), after) << file;
+        EXPECT_EQ(find("frmMain")->focusWidget()->objectName(), focus) << file;
+    }
+}
+
 // Checks the places of the strip and of the chart window, reckoned from the right edge and the middle.
-void expectPlaces(int right) {
+void expectPlaces(int right, int middle) {
     const QRect banner = find("lblBanner")->geometry();
     for (const auto& [name, twipsFromRight] :
          {std::pair{"cmdSavePicture", 5495}, {"cmdShowAll", 4115}, {"cmdBack", 2715}, {"cmdMdiExit", 1335}}) {
-        EXPECT_EQ(find(name)->x(), qRound(right - twipsFromRight / 15.0)) << name;
-        EXPECT_TRUE(find("Picture2")->rect().contains(find(name)->geometry())) << name << " at " << right;
-        EXPECT_FALSE(banner.intersects(find(name)->geometry())) << name << " at " << right;
+        const QRect button = find(name)->geometry();
+        EXPECT_EQ(button.x(), qRound(right - twipsFromRight / 15.0)) << name;
+        EXPECT_TRUE(find("Picture2")->rect().contains(button)) << name << " at " << right;
+        EXPECT_FALSE(banner.intersects(button)) << name << " at " << right;
     }
     for (const QRect& centred : {banner, find<QMdiSubWindow>()->geometry()})
-        EXPECT_NEAR(centred.center().x(), right / 2, 2);
+        EXPECT_NEAR(centred.center().x(), middle, 2);
 }
 
 TEST_F(Program, PlacesStripAndChartByTheEdgesOfTheScreenOrOfASmallerFrame) {
     showChart();
     QWidget* frame = find("frmMdi");
     const QSize screen = frame->screen()->size();
-    expectPlaces(screen.width());
+    expectPlaces(screen.width(), screen.width() / 2);
     frame->showNormal();
-    EXPECT_TRUE(QTest::qWaitFor([&] { return frame->width() < screen.width() * 9 / 10; }))
-        << "restored, it is smaller";
+    await([&] { return frame->width() < screen.width() * 9 / 10; });
     for (const QSize& size : {frame->size(), QSize{500, 400}, QSize{900, 500}}) {
         frame->resize(size);
         frame->move(frame->pos() - QPoint{60, 10});
-        EXPECT_TRUE(QTest::qWaitFor([&] { return frame->size() == size; }));
-        expectPlaces(size.width());
+        await([&] { return frame->size() == size; });
+        expectPlaces(size.width(), size.width() / 2);
+    }
+    frame->resize(screen * 5 / 4);  // fills the screen wherever it is
+    for (const int left : {-50, -150}) {
+        frame->move(left, -50);
+        await([&] { return frame->x() == left && frame->width() > screen.width(); });
+        const int hidden = -frame->geometry().x();
+        expectPlaces(screen.width() + hidden, screen.width() / 2 + hidden);
     }
 }
 
 TEST_F(Program, GoesBackToAnEmptyFormAndCastsTheNextChartOnFreshCells) {
-    bool bothOfOneTitle = false;  // which some window managers would number
-    QWidget* form = find("frmMain");
-    QObject::connect(form->windowHandle(), &QWindow::visibleChanged, form, [&] {
-        for (const QWidget* window : QApplication::topLevelWidgets())
-            bothOfOneTitle |=
-                window != form && window->isVisible() && window->windowTitle() == form->windowTitle();
-    });
-    QTest::keyClicks(find("txtName"), "X");
+    press("X", find("txtName"));
     find("cmbYear")->setFocus();
     showChart();
+    EXPECT_EQ(find("frmMdi")->windowTitle(), "Palace Lantern - JOHN SMITH") << "no two windows of one name";
     choose("frmDisplay", "mnuFileBack");
-    EXPECT_TRUE(form->isVisible());
-    EXPECT_EQ(form->focusWidget(), find("txtName"));
-    QTest::keyClick(find("txtName"), Qt::Key_Z, Qt::ControlModifier);
+    for (const QWidget* window : QApplication::topLevelWidgets())
+        EXPECT_EQ(window->isVisible(), window == find("frmMain"));
+    EXPECT_EQ(find("frmMain")->focusWidget(), find("txtName"));
+    press("Ctrl+Z", find("txtName"));
     EXPECT_EQ(entered(), " 1 January 1970 0 0");
-    showChart("24.12.2003", 21, 0);
+    showChart("24.12.2003", 21, 0, QString(300, 'N'));
+    EXPECT_EQ(find("frmMdi")->windowTitle(), "Palace Lantern - " + QString(100, 'N'));
     EXPECT_FALSE(find("lblLuCun(1)")->isVisible());
-    EXPECT_FALSE(bothOfOneTitle);
 }
 
 TEST_F(Program, DoesOneThingAtATime) {
     enter("A", "1.1.1970", 0, 0);
-    for (int press = 0; press < 2; ++press) find<QAbstractButton>("cmdGenerateChart")->click();
-    EXPECT_EQ(find<QLabel>("lblDateOfBirth")->text(), "January/2/1970");
-    QList<QPointer<QAbstractButton>> buttons;
+    for (int time = 0; time < 2; ++time) find<QAbstractButton>("cmdGenerateChart")->click();
+    EXPECT_EQ(textOf("lblDateOfBirth"), "January/2/1970");
+    QList<QAbstractButton*> buttons;
     for (const char* name : {"cmdShowAll", "cmdSavePicture", "lblCover(3)", "cmdBack"})
         buttons += find<QAbstractButton>(name);
-    int late = 0;  // presses that came through the event loop
     const auto pressAll = [&] {
-        late = 0;
-        for (const auto& button : buttons) {
-            QTimer::singleShot(0, qApp, [&late, button] { ++late, button ? button->click() : void(); });
+        for (auto* button : buttons) {
+            QTimer::singleShot(0, button, &QAbstractButton::click);  // comes late, if at all
             button->click();
         }
         choose("frmDisplay", "mnuShowAll");
-        EXPECT_TRUE(QTest::qWaitFor([&] { return late == buttons.size(); }));
+        QTest::qWait(50);
     };
     const auto cancel = [&](QWidget& dialog) {
         pressAll();
         EXPECT_EQ(QApplication::activeModalWidget(), &dialog);
-        QTest::keyClick(&dialog, Qt::Key_Escape);
+        press("Escape", &dialog);
     };
-    for (int opener = 0; opener < 3; ++opener)
-        EXPECT_EQ(withModals([&] { buttons[opener]->click(); }, cancel), 1);
+    for (int opener = 0; opener < 3; ++opener) withOne([&] { buttons[opener]->click(); }, cancel);
     buttons.last()->click();
-    EXPECT_EQ(withModals(pressAll, cancel), 0);
-    EXPECT_TRUE(find("frmMain")->isVisible());
+    EXPECT_EQ(messagesOf(pressAll), QStringList{});
 }
 
 TEST_F(Program, LeavesAndEntersTheChartByOneTabAndHearsItsKeysOnTheStrip) {
     showChart();
-    const auto focusAfter = [](Qt::Key key) {
-        QTest::keyClick(QApplication::focusWidget(), key);
-        return QApplication::focusWidget()->objectName();
+    const auto focusAfter = [](const char* key) {
+        press(key);
+        return present(QApplication::focusWidget(), "focus")->objectName();
     };
     find("cmdMdiExit")->setFocus();
-    EXPECT_EQ(focusAfter(Qt::Key_Tab), "lblCover(0)");
-    EXPECT_EQ(focusAfter(Qt::Key_Right), "lblCover(11)");
-    EXPECT_EQ(focusAfter(Qt::Key_Up), "lblCover(4)");
-    EXPECT_EQ(focusAfter(Qt::Key_Tab), "lblBanner");
-    EXPECT_EQ(focusAfter(Qt::Key_Backtab), "lblCover(4)");
-    EXPECT_EQ(focusAfter(Qt::Key_Backtab), "cmdMdiExit");
+    EXPECT_EQ(focusAfter("Tab"), "lblCover(0)");
+    EXPECT_EQ(focusAfter("Right"), "lblCover(11)");
+    EXPECT_EQ(focusAfter("Up"), "lblCover(4)");
+    EXPECT_EQ(focusAfter("Tab"), "lblBanner");
+    EXPECT_EQ(focusAfter("Backtab"), "lblCover(4)");
+    EXPECT_EQ(focusAfter("Backtab"), "cmdMdiExit");
     for (const auto& [key, menu] : {std::pair{Qt::Key_F, "mnuFile"}, {Qt::Key_H, "mnuHelp"}}) {
         QTest::keyClick(find("frmMdi")->windowHandle(), key, Qt::AltModifier);
         EXPECT_EQ(find<QMenu>(menu), QApplication::activePopupWidget());
         find<QMenu>(menu)->close();
     }
-    EXPECT_EQ(focusAfter(Qt::Key_Tab), "lblCover(4)");
-    const auto enterOnShowAll = [] { QTest::keyClick(find("cmdShowAll"), Qt::Key_Return); };
-    EXPECT_EQ(withModals(enterOnShowAll, [](QWidget& dialog) { dialog.close(); }), 1);
+    EXPECT_EQ(focusAfter("Tab"), "lblCover(4)");
+    withOne([] { press("Return", find("cmdShowAll")); });
 }
 
 TEST_F(Program, EndsFromEverywhereButByNoOtherKey) {
-    const std::function<void()> ways[]{
+    const Action ways[]{
         [] { click("cmExit"); },
         [] { choose("frmMain", "mnuExit"); },
         [] { find("frmMain")->close(); },
@@ -118,68 +172,59 @@ TEST_F(Program, EndsFromEverywhereButByNoOtherKey) {
     };
     for (std::size_t way = 0; way < std::size(ways); ++way) {
         find("frmMain")->show();
-        QTest::keyClick(find("txtName"), Qt::Key_Escape);
+        press("Escape", find("txtName"));
         EXPECT_TRUE(find("frmMain")->isVisible());
         if (way >= 3) {
             showChart();
-            QWidget* cell = find("lblCover(3)");
-            cell->setFocus();
-            QTest::keyClick(cell, Qt::Key_Escape);
-            for (const Qt::Key key : {Qt::Key_W, Qt::Key_F4}) QTest::keyClick(cell, key, Qt::ControlModifier);
+            press("Escape Ctrl+W Ctrl+F4", find("lblCover(3)"));
             QTest::mouseMove(find<QMdiSubWindow>(), {12, 12});
             QTest::mouseDClick(find<QMdiSubWindow>(), Qt::LeftButton, {}, {12, 12});  // its icon
-            EXPECT_TRUE(cell->isVisible());
+            EXPECT_TRUE(find("lblCover(3)")->isVisible());
         }
         QTimer::singleShot(0, ways[way]);
         const QObject patience;
-        QTimer::singleShot(30'000, &patience, [] { QCoreApplication::exit(1); });
+        QTimer::singleShot(9000, &patience, [] { QCoreApplication::exit(1); });
         EXPECT_EQ(QApplication::exec(), 0) << "way " << way;
         for (const QWidget* window : QApplication::topLevelWidgets()) EXPECT_FALSE(window->isVisible());
     }
 }
 
 TEST_F(Program, OpensThePageOfEachEntryFromEachWindow) {
-    const std::string opener = folder_ + "/xdg-open", page = folder_ + "/page";
     const QByteArray path = qgetenv("PATH");  // in which that one comes first; it notes the page
     qputenv("PATH", QByteArray::fromStdString(folder_) + ":" + path);
-    write(opener, "#!/bin/sh\necho $1 >" + page + "; [ ! -e " + folder_ + "/fail ]");
-    std::filesystem::permissions(opener, std::filesystem::perms::owner_all);
-    const QString installed = QCoreApplication::applicationDirPath() + "/../../share/palace-lantern/help/";
-    const auto expectPage = [&](const char* name, const std::function<void()>& action) {
-        std::filesystem::remove(page);
+    write("xdg-open", "#!/bin/sh\necho $1 >" + in("page") + "; [ ! -e " + in("fail") + " ]");
+    std::filesystem::permissions(in("xdg-open"), std::filesystem::perms::owner_all);
+    const QString installed =
+        QDir::cleanPath(qApp->applicationDirPath() + "/../../share/palace-lantern/help");
+    const auto expectPage = [&](const char* name, const Action& action) {
+        std::filesystem::remove(in("page"));
         action();
-        const QUrl url = QUrl::fromLocalFile(QDir::cleanPath(installed + name));
-        const std::string line = url.toEncoded().toStdString() + "\n";
-        EXPECT_TRUE(QTest::qWaitFor([&] { return read(page) == line; })) << line << read(page);
+        const std::string url = QUrl::fromLocalFile(installed + name).toEncoded().toStdString() + "\n";
+        EXPECT_TRUE(QTest::qWaitFor([&] { return read("page") == url; })) << url << read("page");
     };
-    const auto pressF1 = [] { QTest::keyClick(QApplication::focusWidget(), Qt::Key_F1); };
+    const auto lookUpAndClose = [&](QWidget& window) {
+        expectPage("/help.html", [] { press("F1"); });
+        press("Return");
+        EXPECT_FALSE(window.isVisible());
+    };
     for (const auto& [entry, name] :
-         {std::pair{"mnuOnline", "help.html"}, {"mnuVisit", "index.html"}, {"mnuUpdate", "download.html"}})
+         {std::pair{"mnuOnline", "/help.html"}, {"mnuVisit", "/index.html"}, {"mnuUpdate", "/download.html"}})
         expectPage(name, [&] { choose("frmMain", entry); });
-    expectPage("help.html", pressF1);
+    expectPage("/help.html", [] { press("F1"); });
+    withOne([] { choose("frmMain", "mnuAbout"); }, lookUpAndClose);
     showChart();
-    expectPage("help.html", pressF1);
-    expectPage("index.html", [] { QTest::keyClick(find("lblBanner"), Qt::Key_Return); });
-    const auto lookUpAndClose = [&](QWidget& analysis) {
-        expectPage("help.html", pressF1);
-        analysis.close();
-    };
-    EXPECT_EQ(withModals([] { click("lblCover(2)"); }, lookUpAndClose), 1);
-    write(folder_ + "/fail", "");
-    for (const std::string& way : {folder_ + "/none", folder_}) {  // no opener, and one that fails
+    expectPage("/help.html", [] { press("F1"); });
+    expectPage("/index.html", [] { press("Return", find("lblBanner")); });
+    withOne([] { click("lblCover(2)"); }, lookUpAndClose);
+    write("fail", "");
+    for (const std::string& way : {in("none"), folder_}) {  // no opener, and one that fails
         qputenv("PATH", way.c_str());
-        QString told;
-        const auto openInVain = [&] {
-            click("lblBanner");
-            EXPECT_TRUE(QTest::qWaitFor([&] { return !told.isEmpty(); }));
-        };
         const auto readAndClose = [&](QWidget& message) {
-            told = dynamic_cast<QMessageBox&>(message).text();
+            const QString what = "No browser could be opened. You find the page here:\n";
+            EXPECT_EQ(dynamic_cast<QMessageBox&>(message).text(), what + installed + "/index.html");
             message.close();
         };
-        EXPECT_EQ(withModals(openInVain, readAndClose), 1);
-        const QString what = "No browser could be opened. You find the page here:\n";
-        EXPECT_EQ(told, what + QDir::cleanPath(installed + "index.html"));
+        withOne([] { click("lblBanner"); }, readAndClose);
     }
     qputenv("PATH", path);
 }

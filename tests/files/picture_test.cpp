@@ -15,12 +15,11 @@
 
 namespace {
 
-class SavedFile : public TemporaryFolder {};
+using SavedFile = TemporaryFolder;
 
 TEST_F(SavedFile, LeavesWhatWasThereWhereverTheDiskIsFull) {
-    const std::string bytes = chartFileBytes({u"JOHN SMITH", 1985, "March", 5}),
-                      path = folder_ + "/chart.plf";
-    write(path, "old");
+    const std::string bytes = chartFileBytes({u"JOHN SMITH", 1985, "March", 5}), path = in("chart.plf");
+    write("chart.plf", "old");
     std::signal(SIGXFSZ, SIG_IGN);
     rlimit before{};
     ::getrlimit(RLIMIT_FSIZE, &before);
@@ -30,16 +29,15 @@ TEST_F(SavedFile, LeavesWhatWasThereWhereverTheDiskIsFull) {
         const bool saved = writeFile(path.c_str(), bytes);
         ::setrlimit(RLIMIT_FSIZE, &before);
         EXPECT_EQ(saved, room == bytes.size()) << room;
-        EXPECT_EQ(read(path), saved ? bytes : "old") << room;
-        EXPECT_EQ(names(), Names{"chart.plf"}) << room;
+        EXPECT_EQ(read("chart.plf"), saved ? bytes : "old") << room;
+        EXPECT_EQ(names(), QStringList{"chart.plf"}) << room;
     }
     std::filesystem::permissions(path, std::filesystem::perms::all);
     inClosedFolder([&] { EXPECT_TRUE(writeFile(path.c_str(), "new")) << "in its place"; });
-    EXPECT_EQ(read(path), "new");
+    EXPECT_EQ(read("chart.plf"), "new");
 }
 
-// How near the picture in the file comes to the other, as far as that goes: the peak signal-to-noise ratio in
-// decibels.
+// How near the picture in the file comes to the other: the peak signal-to-noise ratio in decibels.
 double likeness(const std::string& path, const QImage& other) {
     const QImage right = other.convertToFormat(QImage::Format_RGB888);
     const QImage left = QImage{path.c_str()}.copy(other.rect()).convertToFormat(QImage::Format_RGB888);
@@ -54,66 +52,63 @@ class Picture : public Program {
   protected:
     Picture() { showChart(); }
 
-    // By the menu, so that the focus stays where it is.
     QStringList save(const std::string& name) const {
-        return messagesOf([] { choose("frmDisplay", "mnuSavejpg"); }, {folder_ + "/" + name});
+        return messagesOf([] { choose("frmDisplay", "mnuSavejpg"); }, {in(name)});
     }
 };
 
 TEST_F(Picture, ShowsTheChartAsOnTheScreenWithoutFocusAndPointer) {
     auto* client = find("frmDisplay")->findChild<QScrollArea*>();
-    QWidget* cell = find("lblCover(4)");
+    QWidget *frame = find("frmMdi"), *cell = find("lblCover(4)");
     const auto shownWithPointerAt = [&](QWidget* widget) {
         QTest::mouseMove(widget, {2, 2});
-        EXPECT_TRUE(QTest::qWaitFor([&] { return cell->underMouse() == (widget == cell); }));
+        await([&] { return cell->underMouse() == (widget == cell); });
         return client->grab({{}, client->size() - QSize{0, 40}}).toImage();  // without the hint
     };
-    const QImage plain = shownWithPointerAt(find("frmMdi"));
+    const QImage plain = shownWithPointerAt(frame);
     cell->setFocus();
-    const QImage focused = shownWithPointerAt(find("frmMdi"));
+    const QImage focused = shownWithPointerAt(frame);
     EXPECT_NE(focused, plain);
     EXPECT_NE(shownWithPointerAt(cell), focused);
     EXPECT_EQ(save("chart"), QStringList{});
-    EXPECT_GE(likeness(folder_ + "/chart.jpg", plain), 45);
-    EXPECT_EQ(shownWithPointerAt(find("frmMdi")), focused);
-    QWidget* frame = find("frmMdi");
+    EXPECT_GE(likeness(in("chart.jpg"), plain), 45);
+    EXPECT_EQ(shownWithPointerAt(frame), focused);
     frame->showNormal();
-    EXPECT_TRUE(QTest::qWaitFor([&] { return frame->width() < frame->screen()->size().width() * 9 / 10; }));
-    const QWidget* whole = client->widget();
-    for (const auto& [size, name] : {std::pair{QSize{500, 700}, "across"}, {QSize{1000, 400}, "down"}}) {
+    await([&] { return frame->width() < frame->screen()->size().width() * 9 / 10; });
+    const QWidget& whole = *client->widget();
+    for (const auto& [size, name] :
+         {std::pair{QSize{500, 700}, "across.jpg"}, {QSize{1000, 400}, "down.jpg"}}) {
         frame->resize(size);
-        const bool across = size.width() == 500;
-        EXPECT_TRUE(QTest::qWaitFor([&] { return (whole->width() > client->width()) == across; })) << name;
-        EXPECT_TRUE(QTest::qWaitFor([&] { return (whole->height() > client->height()) != across; })) << name;
+        await([&, across = size.width() == 500] {
+            return (whole.width() > client->width()) == across &&
+                   (whole.height() > client->height()) != across;
+        });
         EXPECT_EQ(save(name), QStringList{});
-        EXPECT_EQ(QImage((folder_ + "/" + name + ".jpg").c_str()).size(), whole->size()) << name;
+        EXPECT_EQ(QImage(in(name).c_str()).size(), whole.size()) << name;
     }
 }
 
 TEST_F(Picture, OverwritesNothingAndLeavesNothingBeside) {
-    const auto convert =
-        reinterpret_cast<decltype(&BmpToJpeg)>(QLibrary::resolve(converterPath(), "BmpToJpeg"));
-    ASSERT_NE(convert, nullptr);
-    write(folder_ + "/chart.bmp", "the person's own");
-    std::string longest(251, 'n'), counted(247, 'n');
-    longest += ".jpg";
-    counted += "_001.jpg";
+    const auto convert = reinterpret_cast<decltype(&BmpToJpeg)>(
+        present(QLibrary::resolve(converterPath(), "BmpToJpeg"), "converter"));
+    write("chart.bmp", "the person's own");
+    const std::string longest = std::string(251, 'n') + ".jpg", counted = std::string(247, 'n') + "_001.jpg";
     for (const std::string& name : {std::string{"chart"}, std::string{"chart.png"}, longest, longest})
         EXPECT_EQ(save(name), QStringList{});
-    messagesOf([] { click("cmdSavePicture"); });  // cancelled
+    withOne([] { click("cmdSavePicture"); });  // cancelled
     const QStringList closed{"critical|Nothing can be saved in this folder.", "stays"};
     inClosedFolder([&] { EXPECT_EQ(save("chart.jpg"), closed); });
-    savePictureAs(QPixmap{9, 9}, (folder_ + "/broken").c_str(), "/none.dll", nullptr);
-    EXPECT_EQ(names(), (Names{"chart.bmp", "chart.jpg", "chart.png", longest, counted}));
-    const std::string bmp = folder_ + "/chart.bmp", jpeg = folder_ + "/chart.jpg", picture = read(jpeg);
-    EXPECT_EQ(read(bmp), "the person's own");
+    savePictureAs(QPixmap{9, 9}, in("broken").c_str(), "/none.dll", nullptr);
+    EXPECT_EQ(names().join(" ").toStdString(), "chart.bmp chart.jpg chart.png " + counted + " " + longest);
+    EXPECT_EQ(read("chart.bmp"), "the person's own");
+    EXPECT_TRUE(read("chart.png").starts_with("\xFF\xD8"));
+    const std::string bmp = in("chart.bmp"), jpeg = in("chart.jpg"), picture = read("chart.jpg");
     EXPECT_EQ(convert(bmp.c_str(), jpeg.c_str(), 90) + convert(nullptr, jpeg.c_str(), 90), 0);
     EXPECT_TRUE(QPixmap(9, 9).save(bmp.c_str()));
     EXPECT_EQ(convert(bmp.c_str(), "/none/x", 90), 0);
-    EXPECT_EQ(read(jpeg), picture);
-    EXPECT_TRUE(read(folder_ + "/chart.png").starts_with("\xFF\xD8"));
+    EXPECT_EQ(read("chart.jpg"), picture);
     for (int counter = 1001; counter <= 1999; ++counter)
-        write(folder_ + "/chart_" + std::to_string(counter).substr(1) + ".jpg", "");
+        write("chart_" + std::to_string(counter).substr(1) + ".jpg", "");
     EXPECT_EQ(save("chart"), QStringList{" UNABLE  TO  CREATE  NEW  FILEchart.jpg|critical|"
                                          "There are too many Copies of this file  chart.jpg"});
 }

@@ -14,10 +14,9 @@ std::string_view failureOf(const char16_t* name, const std::string& date) {
 
 TEST(InputCheck, StopsAtTheFirstFailure) {
     EXPECT_EQ(failureOf(u"", "31.4.1970"), "Please Enter Your Name !");
-    for (const char* date : {"29.2.1971", "30.2.1972"})
-        EXPECT_EQ(failureOf(u"A", date), "Please Enter Correct Date Of Birth !") << date;
     for (int year = 1970; year <= 2012; ++year)
-        EXPECT_EQ(failureOf(u"A", "29.2." + std::to_string(year)).empty(), year % 4 == 0) << year;
+        EXPECT_EQ(failureOf(u"A", "29.2." + std::to_string(year)),
+                  year % 4 == 0 ? "" : "Please Enter Correct Date Of Birth !");
     for (const char* date : {"31.4.1970", "31.6.1970", "31.9.1970", "31.11.1970"})
         EXPECT_EQ(failureOf(u"A", date), "Please Enter Correct Date Of of Birth !") << date;
     for (const char* date : {"28.2.1971", "30.4.1970", "31.5.1970", "31.12.2012"})
