@@ -4,7 +4,6 @@
 #include <gtest/gtest.h>
 
 #include <array>
-#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -42,12 +41,6 @@ inline std::string cellLine(const ChartModel& chart, CellIndex cell) {
         if (!text.empty()) line += line.empty() ? text : ", " + text;
     }
     return line;
-}
-
-// The 32-bit FNV-1a of a text, which may go on from that of the text before.
-inline std::uint32_t sumOf(std::string_view text, std::uint32_t sum = 0x811c9dc5) {
-    for (const char letter : text) sum = (sum ^ static_cast<unsigned char>(letter)) * 0x01000193;
-    return sum;
 }
 
 // A chart worked out by hand.

@@ -4,7 +4,7 @@
 set -euo pipefail
 cd "$(dirname "$0")/.."
 . tools/common.sh
-packages="g++-mingw-w64-x86-64-posix nsis icoutils wine wine64 dpkg-dev imagemagick"
+packages="g++-mingw-w64-x86-64-posix nsis icoutils wine wine64 dpkg-dev imagemagick xclip"
 folder=$PWD/build/windows
 # Wine has a Windows of its own in the build folder, and adds nothing to the desktop outside.
 export HOME=$folder/home WINEPREFIX=$folder/wine WINEPATH="$folder/libraries/bin" LC_ALL=C.UTF-8 \

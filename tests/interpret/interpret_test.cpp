@@ -1,34 +1,107 @@
-// The texts and the analyses made of them, as a sum: a letter that changes, or a text in another's place or
-// style, changes it.
+// The texts: the letters of those that are fixed, the place of the others, and the analyses made of them.
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <set>
+#include <span>
+#include <vector>
+
 #include "chart_text.h"
 #include "interpret/composer.h"
+#include "interpret/texts.h"
 
 namespace {
 
-std::uint32_t addedTo(std::uint32_t sum, const std::vector<TextRun>& runs) {
-    for (const auto& [text, style] : runs) {
-        const auto& [bold, size, colour] = style;
-        for (const int part : {int{bold}, size, int{colour.red}, int{colour.green}, int{colour.blue}})
-            sum = sumOf(std::to_string(part) + ' ', sum);
-        sum = sumOf(text, sum);
+// The stars in palaces whose texts are fixed, as indices into the table.
+constexpr std::pair<std::size_t, std::size_t> fixed[]{{0, 4},  {0, 5},   {1, 2},   {1, 7},  {1, 8},
+                                                      {1, 9},  {1, 10},  {1, 11},  {10, 7}, {10, 8},
+                                                      {10, 9}, {10, 10}, {10, 11}, {12, 6}};
+
+// A letter that changes shows in the text's own sum, the 32-bit FNV-1a.
+TEST(Texts, KeepEachLetterWhereTheyAreFixed) {
+    std::vector<std::string> texts{std::string{introText}, std::string{bodyPalaceText}};
+    for (const auto& [heading, text] : palaceTexts) texts.push_back(std::string{heading}.append(text));
+    for (const auto& [star, text] : starTexts) texts.emplace_back(text);
+    for (const auto& [star, palace] : fixed) texts.emplace_back(starInPalaceTexts[star][palace]);
+    constexpr std::array<std::uint32_t, 41> sums{
+        0xea25deb6, 0x2c443783, 0xee1a3b7e, 0x7d032e8f, 0xb97025d5, 0x17144278, 0xc40d9492,
+        0xf57f55b1, 0x2c21eaab, 0x48e3b651, 0x4c19a956, 0x75360ac9, 0xafa31298, 0xd429349c,
+        0xeb476d40, 0x74db77e0, 0x359cb102, 0x68b328d3, 0xc495740b, 0x0b49e0d4, 0x01540a6c,
+        0x73e65156, 0x359652ae, 0xeee31188, 0xa7c5fe85, 0x23d43e61, 0x312435fb, 0x60292532,
+        0xfe7db4d0, 0x1835c439, 0x1fbd6c00, 0x23e5867c, 0xda3a33dc, 0x44d398e7, 0x0c1c965a,
+        0x1fbd6c00, 0x23e5867c, 0xda3a33dc, 0xe07eeffd, 0x41ad3487, 0xcd489acb};
+    for (std::size_t i = 0; i < sums.size(); ++i) {
+        std::uint32_t sum = 0x811c9dc5;
+        for (const char letter : texts.at(i)) sum = (sum ^ static_cast<unsigned char>(letter)) * 0x01000193;
+        EXPECT_EQ(sum, sums[i]) << texts[i];
     }
-    return sum;
 }
 
-TEST(Texts, KeepEachLetterInItsPlaceAndStyle) {
-    std::uint32_t sum = addedTo(0, {introRun()});
-    for (int i = 0; i < 12 * 30; ++i) {  // each star comes into each palace
-        ChartModel chart = cast({u"", {i % 30, i / 30, 15}, i % 12 * 2, 30});
-        for (ChartCell& each : chart.cells) each.lblMajorStars = "";  // what counts is recorded, not drawn
-        sum = addedTo(sum, composeAllPalaces(chart));
-        for (int cell = -1; cell <= 12; ++cell) sum = addedTo(sum, composePalaceAnalysis(chart, cell));
-        chart.cells[0].lblPalace = "health";  // no name that is known
-        sum = addedTo(sum, composePalaceAnalysis(chart, 0));
+TEST(Texts, StandWithTheirStarsAndPalacesAndAreDistinct) {
+    for (const auto& [star, text] : starTexts) {
+        const std::string_view name = fieldOf(star).text.text();
+        EXPECT_EQ(text.find(name) == text.npos, name == "Tian Tong");  // which says Tiang Tong
     }
-    EXPECT_EQ(sum, 0x4db51f27U);
+    std::set<std::string_view> texts;
+    std::array<std::string, palaceNames.size()> inPalaces;
+    for (const auto& star : starInPalaceTexts) {
+        texts.insert(star.begin(), star.end());
+        for (std::size_t palace = 0; palace < palaceNames.size(); ++palace) inPalaces[palace] += star[palace];
+    }
+    EXPECT_EQ(texts.size(), 153U);  // of 156
+    constexpr std::pair<const char*, std::size_t> onlyIn[]{
+        {"sister", 1},     {"spouse", 2},   {"hildren", 3}, {"friend", 7},     {"parents", 11},
+        {"Tiang Tong", 4}, {"Tian Fun", 3}, {"l or 2", 3},  {"o the cards", 4}};
+    for (const auto& [word, own] : onlyIn)
+        for (std::size_t palace = 0; palace < palaceNames.size(); ++palace)
+            EXPECT_EQ(inPalaces[palace].find(word) != std::string::npos, palace == own) << word;
+}
+
+using Runs = std::vector<TextRun>;
+
+constexpr TextStyle heading{true, 9, {13, 36, 166}}, brown{true, 8, {101, 14, 14}};
+constexpr TextStyle black{true, 8, {0, 0, 0}}, red{true, 8, {128, 0, 0}};
+
+void add(Runs& runs, std::string_view text, const TextStyle& style, std::string_view end = "\r\n\r\n") {
+    runs.push_back({std::string{text}.append(end), style});
+}
+
+bool same(const Runs& left, const Runs& right) {
+    const auto parts = [](const TextRun& run) { return std::pair{run.text, run.style}; };
+    return std::ranges::equal(left, right, {}, parts, parts);
+}
+
+// What each cell of the first hand chart is about: its palace and then its stars, as indices into the texts.
+const std::vector<std::vector<std::size_t>> subjects{{5, 0, 6}, {4, 7},      {3, 8}, {2, 9}, {1, 5}, {0, 11},
+                                                     {11, 12},  {10, 4, 10}, {9, 3}, {8, 2}, {7},    {6, 1}};
+
+TEST(Composer, WritesPalaceBodyAndStarsInTheirOrder) {
+    ChartModel chart = cast(handBirth);
+    for (ChartCell& each : chart.cells) each.lblMajorStars = "";  // what counts is recorded, not drawn
+    Runs all;
+    for (const CellIndex cell : allCells) {
+        const std::size_t palace = subjects[cell.index()].front();
+        Runs runs;
+        add(runs, palaceTexts[palace].heading, heading, "");
+        add(runs, palaceTexts[palace].description, brown);
+        add(runs, "Details about the Star present in this house :-", red);
+        if (cell.value() == 7) add(runs, "Body Palace :- ", heading, "");
+        if (cell.value() == 7) add(runs, bodyPalaceText, brown);
+        for (const std::size_t star : std::span{subjects[cell.index()]}.subspan(1)) {
+            add(runs, fieldOf(starTexts[star].star).text.text(), heading, " Star :- ");
+            add(runs, starTexts[star].general, black);
+            add(runs, starInPalaceTexts[star][palace], brown);
+        }
+        EXPECT_TRUE(same(composePalaceAnalysis(chart, cell.value()), runs)) << cell.value();
+        all.insert(all.end(), runs.begin(), runs.end());
+        add(all, "", runs.back().style);
+    }
+    EXPECT_TRUE(same(composeAllPalaces(chart), all));
+    EXPECT_TRUE(same({introRun()}, {{std::string{introText} + "\r\n\r\n", black}}));
+    chart.cells[0].lblPalace = "health";  // no name that is known
+    EXPECT_EQ(composePalaceAnalysis(chart, 0).size(), 1U);
+    for (const int cell : {-1, 12}) EXPECT_TRUE(composePalaceAnalysis(chart, cell).empty());
 }
 
 }  // namespace
