@@ -37,7 +37,7 @@ void NameBox::setName(const QString& name) {
 // Line breaks at the end, which come with a copied line, are removed without a message.
 QString NameBox::filtered(QStringView text) {
     while (text.endsWith(QLatin1Char('\n')) || text.endsWith(QLatin1Char('\r'))) text.chop(1);
-    const QString accepted = QString::fromStdU16String(filterName(text.toString().toStdU16String()));
+    QString accepted = QString::fromStdU16String(filterName(text.toString().toStdU16String()));
     if (accepted.size() < text.size()) emit rejected();
     return accepted;
 }

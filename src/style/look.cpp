@@ -30,7 +30,9 @@ class Mark : public QLabel {
   protected:
     void paintEvent(QPaintEvent*) override {
         QPainter painter{this};
-        productIcon({48, 128, 256}).paint(&painter, rect());
+        const double dots = width() * devicePixelRatioF();
+        // Only one size: reading them all would slow the start down.
+        productIcon({dots <= 48 ? 48 : dots <= 128 ? 128 : 256}).paint(&painter, rect());
     }
 };
 

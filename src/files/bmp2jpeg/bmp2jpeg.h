@@ -1,5 +1,4 @@
-// The picture converter module: turns a saved BMP into a JPEG file. The program loads it at run time,
-// so that everything which does not export pictures works without a JPEG library.
+// The picture converter: a module that is loaded only to save a picture; all else needs no JPEG library.
 
 #pragma once
 
