@@ -195,7 +195,7 @@ TEST_F(Analysis, IsReadInAnySizeAndPrintedInItsOwnAsFarAsItIsSelected) {
         text.setTextCursor(text.document()->find(words));
         text.verticalScrollBar()->setValue(text.verticalScrollBar()->maximum() * 2 / 3);
         const int topBefore = top();
-        press("Ctrl+=");
+        press("Ctrl+=", &text);
         EXPECT_DOUBLE_EQ(size(), own * 1.1);
         EXPECT_EQ(top(), topBefore);
         EXPECT_EQ(text.textCursor().selectedText(), words);
@@ -206,9 +206,9 @@ TEST_F(Analysis, IsReadInAnySizeAndPrintedInItsOwnAsFarAsItIsSelected) {
         turn(8, 120, Qt::ControlModifier);
         turn(1, 120, Qt::NoModifier);
         EXPECT_DOUBLE_EQ(size(), own * 2.5);
-        press("Ctrl+0 Ctrl+-");
+        press("Ctrl+0 Ctrl+-", &text);
         EXPECT_DOUBLE_EQ(size(), own * 0.9);
-        for (int step = 0; step < 12; ++step) press("Ctrl++");
+        for (int step = 0; step < 12; ++step) press("Ctrl++", &text);
         text.window()->resize(510, 440);
     });
     open([&](QTextEdit& text) {
