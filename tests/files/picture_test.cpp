@@ -92,14 +92,16 @@ TEST_F(Picture, OverwritesNothingAndLeavesNothingBeside) {
     const auto convert = reinterpret_cast<decltype(&BmpToJpeg)>(
         present(QLibrary::resolve(converterPath(), "BmpToJpeg"), "converter"));
     write("chart.bmp", "the person's own");
+    std::filesystem::create_symlink("/none/x", in("link.jpg"));
     const std::string longest = std::string(251, 'n') + ".jpg", counted = std::string(247, 'n') + "_001.jpg";
-    for (const std::string& name : {std::string{"chart"}, std::string{"chart.png"}, longest, longest})
+    for (const std::string& name : {std::string{"chart"}, {"chart.png"}, {"link"}, longest, longest})
         EXPECT_EQ(save(name), QStringList{});
     withOne([] { click("cmdSavePicture"); });  // cancelled
     const QStringList closed{"critical|Nothing can be saved in this folder.", "stays"};
     inClosedFolder([&] { EXPECT_EQ(save("chart.jpg"), closed); });
     savePictureAs(QPixmap{9, 9}, in("broken").c_str(), "/none.dll", nullptr);
-    EXPECT_EQ(names().join(" ").toStdString(), "chart.bmp chart.jpg chart.png " + counted + " " + longest);
+    EXPECT_EQ(names().join(" ").toStdString(),
+              "chart.bmp chart.jpg chart.png link_001.jpg " + counted + " " + longest);
     EXPECT_EQ(read("chart.bmp"), "the person's own");
     EXPECT_TRUE(read("chart.png").starts_with("\xFF\xD8"));
     const std::string bmp = in("chart.bmp"), jpeg = in("chart.jpg"), picture = read("chart.jpg");
