@@ -2,8 +2,6 @@
 #pragma once
 
 #include <gtest/gtest.h>
-#include <sys/stat.h>
-#include <unistd.h>
 
 #include <QtTest>
 #include <QtWidgets>
@@ -16,6 +14,7 @@
 #include "app/application.h"
 #include "calendar/lunar_month.h"
 #include "chart_text.h"
+#include "system_limits.h"
 
 using Action = std::function<void()>;
 
@@ -140,20 +139,13 @@ inline QStringList messagesOf(const Action& action, const std::vector<std::strin
 class TemporaryFolder : public testing::Test {
   protected:
     std::string in(const std::string& name) const { return folder_ + "/" + name; }
-    void write(const std::string& name, const std::string& bytes) const { std::ofstream{in(name)} << bytes; }
+    void write(const std::string& name, const std::string& bytes) const {
+        std::ofstream{in(name), std::ios::binary} << bytes;
+    }
     std::string read(const std::string& name) const {
-        return {std::istreambuf_iterator<char>{std::ifstream{in(name)}.rdbuf()}, {}};
+        return {std::istreambuf_iterator<char>{std::ifstream{in(name), std::ios::binary}.rdbuf()}, {}};
     }
     QStringList names() const { return QDir{dir_.path()}.entryList(QDir::AllEntries | QDir::NoDotAndDotDot); }
-
-    // Runs the action while the folder takes no new files, and without root's rights to everything.
-    void inClosedFolder(const Action& action) const {
-        const uid_t own = ::getuid(), other = own == 0 ? 65534 : own;
-        EXPECT_EQ(::chown(folder_.c_str(), other, ::getgid()) | ::chmod(folder_.c_str(), 0500), 0);
-        EXPECT_EQ(::setresuid(other, other, own), 0);
-        action();
-        EXPECT_EQ(::setresuid(own, own, own) | ::chmod(folder_.c_str(), 0700), 0);
-    }
 
     const QTemporaryDir dir_{QDir::tempPath() + "/palace.lantern-XXXXXX"};
     const std::string folder_ = dir_.path().toStdString();

@@ -167,11 +167,11 @@ TEST_F(Analysis, OfAllPalacesIsSavedAndAsksBeforeItOverwrites) {
         EXPECT_EQ(names(), (QStringList{"<h1>BIG.plf", "chart.txt", "say \"hi\" now.plf", "sub"}));
         EXPECT_EQ(read("sub/in sub.txt"), bytes);
         expectRefusal(big, question.arg("<h1>BIG.plf"));
-        expectRefusal("/none/chart", "critical|The folder does not exist.");
+        expectRefusal(in("none/chart"), "critical|The folder does not exist.");
         expectRefusal(in("sub/name"), "critical|This is the name of a folder.");
         expectRefusal(in(std::string(256, 'n')), "critical|The name is too long.");
         std::filesystem::permissions(in("chart.txt"), std::filesystem::perms::owner_read);
-        inClosedFolder([&] {
+        inClosedFolder(folder_, [&] {
             expectRefusal(in("chart.txt"), "critical|This file is read-only.");
             expectRefusal(in("new"), "critical|Nothing can be saved in this folder.");
         });

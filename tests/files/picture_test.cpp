@@ -1,10 +1,7 @@
 // Files as they come to the disk: chart files, and the picture of the chart, from the screen through the
 // converter, a module loaded at run time, to the file.
 
-#include <sys/resource.h>
-
 #include <cmath>
-#include <csignal>
 
 #include "app/start_rules.h"
 #include "files/bmp2jpeg/bmp2jpeg.h"
@@ -20,20 +17,15 @@ using SavedFile = TemporaryFolder;
 TEST_F(SavedFile, LeavesWhatWasThereWhereverTheDiskIsFull) {
     const std::string bytes = chartFileBytes({u"JOHN SMITH", 1985, "March", 5}), path = in("chart.plf");
     write("chart.plf", "old");
-    std::signal(SIGXFSZ, SIG_IGN);
-    rlimit before{};
-    ::getrlimit(RLIMIT_FSIZE, &before);
     for (std::size_t room = 0; room <= bytes.size(); ++room) {
-        const rlimit limit{room, before.rlim_max};
-        ::setrlimit(RLIMIT_FSIZE, &limit);
-        const bool saved = writeFile(path.c_str(), bytes);
-        ::setrlimit(RLIMIT_FSIZE, &before);
+        bool saved = false;
+        withRoomFor(room, [&] { saved = writeFile(path.c_str(), bytes); });
         EXPECT_EQ(saved, room == bytes.size()) << room;
         EXPECT_EQ(read("chart.plf"), saved ? bytes : "old") << room;
         EXPECT_EQ(names(), QStringList{"chart.plf"}) << room;
     }
     std::filesystem::permissions(path, std::filesystem::perms::all);
-    inClosedFolder([&] { EXPECT_TRUE(writeFile(path.c_str(), "new")) << "in its place"; });
+    inClosedFolder(folder_, [&] { EXPECT_TRUE(writeFile(path.c_str(), "new")) << "in its place"; });
     EXPECT_EQ(read("chart.plf"), "new");
 }
 
@@ -98,7 +90,7 @@ TEST_F(Picture, OverwritesNothingAndLeavesNothingBeside) {
         EXPECT_EQ(save(name), QStringList{});
     withOne([] { click("cmdSavePicture"); });  // cancelled
     const QStringList closed{"critical|Nothing can be saved in this folder.", "stays"};
-    inClosedFolder([&] { EXPECT_EQ(save("chart.jpg"), closed); });
+    inClosedFolder(folder_, [&] { EXPECT_EQ(save("chart.jpg"), closed); });
     savePictureAs(QPixmap{9, 9}, in("broken").c_str(), "/none.dll", nullptr);
     EXPECT_EQ(names().join(" ").toStdString(),
               "chart.bmp chart.jpg chart.png link_001.jpg " + counted + " " + longest);
