@@ -104,6 +104,9 @@ TEST_F(Chains, FlagsStayUntilTheCellsAreLoadedAndMarkedBranchesAreNotFoundAgain)
         next(entry);  // so the cell of the chart before stays
         EXPECT_EQ(chart_.cellOf(Star::ZiWei), both.cellOf(Star::ZiWei));
     }
+    chart_.loadCells();
+    next(birth("31.3.1985"));
+    EXPECT_TRUE(chart_.cell(chart_.cellOf(ZiWei)).holds(ZiWei)) << "its branch stays, too";
 }
 
 TEST_F(Chains, ADateWithoutALunarMonthCountsFromTheChartBefore) {
