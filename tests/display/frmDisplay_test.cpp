@@ -5,6 +5,7 @@
 #include <map>
 
 #include "display/chart_accessibility.h"
+#include "display/frmPalaceAnalysis.h"
 #include "display/label_places.h"
 #include "form_driver.h"
 #include "style/controls.h"
@@ -150,6 +151,8 @@ TEST_F(Labels, CanBeReadOnALightChartEvenOnADarkDesktop) {
         EXPECT_GE(look::contrast(paper, letters), 4.5) << shown->objectName().toStdString();
     }
     EXPECT_GT(count, 80);
+    const frmPalaceAnalysis analysis{AnalysisKind::onePalace, {}, {}, display_.get()};
+    EXPECT_EQ(analysis.findChild<QTextEdit*>()->palette().color(QPalette::Base), look::paper);
     QApplication::setPalette(before);
 }
 
@@ -167,6 +170,9 @@ TEST(Look, MakesSelectionsAndTitlesLegible) {
         EXPECT_EQ(behind == ground, ground == Qt::cyan) << "only that one is legible as it is";
         for (const auto role : {QPalette::Highlight, QPalette::Text})
             EXPECT_GE(look::contrast(title.color(role), Qt::white), 4.5);
+        EXPECT_EQ(title.color(QPalette::HighlightedText), QColor{Qt::white});
+        QApplication::style()->polish(desktop);
+        EXPECT_EQ(desktop, mended) << "for all windows";
     }
 }
 

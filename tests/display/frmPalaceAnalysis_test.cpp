@@ -140,7 +140,7 @@ TEST_F(Analysis, OfAPalaceIsNotClosedByTheSecondHalfOfADoubleClick) {
         clickAt(5000, *find("frmDisplay")->findChild<QMenuBar*>());
         clickAt(5100, *find<QMenu>("mnuFile"));  // goes on with its title; its first entry is Show All
     };
-    withOne(chooseQuickly);
+    withOne(chooseQuickly, [](QWidget&) { choose("frmPalaceAnalysis", "mnuOk"); });
 }
 
 TEST_F(Analysis, OfAllPalacesIsSavedAndAsksBeforeItOverwrites) {
