@@ -118,6 +118,18 @@ TEST_F(Analysis, OfAPalaceIsOpenedOnceByAKeyThatIsHeldDownAndReadUntilTheNextPre
     }
 }
 
+TEST_F(Analysis, OfAPalaceIsClosedByEnterThoughItsLastReleaseWasMissed) {
+    const auto pressShiftAndEnter = [](QWidget& analysis) {
+        for (const auto& [key, repeated] : {std::pair{Qt::Key_Shift, false}, {Qt::Key_Return, true}}) {
+            QKeyEvent event{QEvent::KeyPress, key, Qt::NoModifier, {}, repeated};
+            QApplication::sendEvent(analysis.windowHandle(), &event);
+        }
+        EXPECT_FALSE(analysis.isVisible());
+        analysis.close();
+    };
+    withOne([] { click("lblCover(7)"); }, pressShiftAndEnter);
+}
+
 TEST_F(Analysis, OfAPalaceIsNotClosedByTheSecondHalfOfADoubleClick) {
     const auto clickAt = [](quint64 time, QWidget& control) {
         const QPoint inWindow = control.mapTo(control.window(), QPoint{9, 9});
