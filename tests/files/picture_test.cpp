@@ -88,10 +88,10 @@ TEST_F(Picture, OverwritesNothingAndLeavesNothingBeside) {
     const std::string longest = std::string(251, 'n') + ".jpg", counted = std::string(247, 'n') + "_001.jpg";
     for (const std::string& name : {std::string{"chart"}, {"chart.png"}, {"link"}, longest, longest})
         EXPECT_EQ(save(name), QStringList{});
-    const QDir program = QCoreApplication::applicationDirPath();
-    const QStringList before = program.entryList();
+    const auto beside = [] { return QDir{QCoreApplication::applicationDirPath()}.entryList(); };
+    const QStringList before = beside();
     withOne([] { click("cmdSavePicture"); });  // cancelled
-    EXPECT_EQ(program.entryList(), before);
+    EXPECT_EQ(beside(), before);
     const QStringList closed{"critical|Nothing can be saved in this folder.", "stays"};
     inClosedFolder(folder_, [&] { EXPECT_EQ(save("chart.jpg"), closed); });
     savePictureAs(QPixmap{9, 9}, in("broken").c_str(), "/none.dll", nullptr);
