@@ -21,6 +21,8 @@ comes_forward() {
 }
 stands_still() { [ "$(import -window root rgb:- | cksum)" = "$(sleep 0.3 && import -window root rgb:- | cksum)" ]; }
 is_gone() { ! "$@"; }
+# The next program's windows may have the same numbers.
+wait_for_end() { wait_for is_gone xdotool search --name "^$title" && front=; }
 
 # Waits until the next window, which has that title, is in front; takes the picture of that name, unless it is "-",
 # and then presses the keys. What begins with "=" is typed, with "+" pasted: Wine types no letters of all scripts.
@@ -65,7 +67,7 @@ at "$chart" - alt+j
 at "Save as JPG" save-picture "+${path%/*}/星.jpg" Return
 at "$chart" - alt+b
 at "$title" back alt+e
-wait_for is_gone xdotool search --name "^$title"
+wait_for_end
 test -s "$drive${path#C:}.plf"
 identify "$drive/Ünïcode 星/星.jpg" | grep JPEG
 tail -c 6 "$drive${path#C:}.pdf" | grep %%EOF
@@ -80,7 +82,7 @@ at "$chart" chart-again alt+h a
 compare -metric AE pictures/chart.png pictures/chart-again.png null:
 at "About $title" about Escape
 at "$chart" - alt+e
-wait_for is_gone xdotool search --name "^$title"
+wait_for_end
 
 wine "$program/Uninstall.exe" &
 at "$title Uninstall " uninstall Return
