@@ -297,7 +297,7 @@ bool frmDisplay::moveFocus(const LblCover* from, int key) {
     return true;
 }
 
-// Qt 6.8 still: the Tab key never leaves a QMdiSubWindow.
+// Not left to Qt, where the Tab key leaves a QMdiSubWindow only while it holds no other tab stop.
 bool frmDisplay::focusNextPrevChild(bool next) {
     emit tabbedOut(next);
     return true;
