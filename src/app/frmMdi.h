@@ -25,7 +25,7 @@ class frmMdi : public QMainWindow {
     void savePictureRequested();
     void showAllRequested();
     void backRequested();
-    void closed();
+    void closed();  // the frame itself
 
   protected:
     void changeEvent(QEvent* event) override;

@@ -305,7 +305,7 @@ void frmMain::setVisible(bool visible) {
         fitToScreen();
         const QRect room = screen()->availableGeometry();
         const QSize rest = (room.size() - size()) / 2;
-        move(room.topLeft() + QPoint{rest.width(), rest.height() / 2});
+        move(room.topLeft() + QPoint{rest.width(), rest.height() / 2});  // above the middle
     }
     QDialog::setVisible(visible);
     if (visible)
