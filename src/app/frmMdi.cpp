@@ -98,14 +98,14 @@ void frmMdi::showInPlaceOf(const QWidget& form) {
     showMaximized();
 }
 
-// The first restore would bring back the geometry that showInPlaceOf() has set, which fills the screen. An
-// inactive frame is left alone: some window managers restore a frame for a moment while they show it.
 void frmMdi::changeEvent(QEvent* event) {
     QMainWindow::changeEvent(event);
     if (event->type() == QEvent::PaletteChange) followPalette();
     // Queued, because the menu bar gets the new font after the frame.
     if (event->type() == QEvent::FontChange && isVisible())
         QMetaObject::invokeMethod(this, &frmMdi::placeChart, Qt::QueuedConnection);
+    // The first restore would bring back the geometry that showInPlaceOf() has set, which fills the screen.
+    // An inactive frame is left alone: some window managers restore a frame for a moment while they show it.
     if (event->type() != QEvent::WindowStateChange || isMaximized() || isMinimized() || !isActiveWindow())
         return;
     if (std::exchange(wasRestored_, true)) return;
@@ -121,27 +121,27 @@ void frmMdi::focusStrip(bool first) {
     first ? lblBanner->setFocus(Qt::TabFocusReason) : cmdMdiExit->setFocus(Qt::BacktabFocusReason);
 }
 
-// The rectangle that strip and chart are placed by, in the frame's coordinates: the screen's while the frame
+// The rectangle in which strip and chart are placed, in the frame's coordinates: the screen's while the frame
 // fills it, else the frame's own. Where positions are not known, the frame counts as centred on the screen.
-QRect frmMdi::placedBy() const {
-    const QRect place = screen()->geometry(), frame = frameGeometry();
+QRect frmMdi::placementRect() const {
+    const QRect whole = screen()->geometry(), frame = frameGeometry();
     const bool known = placesAreKnown();
     const bool covers = known && frame.contains(screen()->availableGeometry());
     if (!covers && !isMaximized() && !isFullScreen()) return rect();
-    const int left = known ? geometry().x() - place.x() : (place.width() - width()) / 2;
-    return {QPoint{-left, 0}, place.size()};
+    const int left = known ? geometry().x() - whole.x() : (whole.width() - width()) / 2;
+    return {QPoint{-left, 0}, whole.size()};
 }
 
 // The left edge of something of that width that is centred, but not outside the frame.
 int frmMdi::centredLeft(int width) const {
-    const QRect room = placedBy();
+    const QRect room = placementRect();
     return std::clamp(room.x() + room.width() / 2 - width / 2, 0, std::max(0, this->width() - width));
 }
 
 // Distances, in twips, are from the right edge of the screen, or of a frame that does not reach it.
 // Intentional: the middle gap is wider. Buttons that the banner would overlap move to a second row.
 void frmMdi::placeStrip() {
-    const QRect room = placedBy();
+    const QRect room = placementRect();
     const bool reaches = placesAreKnown() && room.right() <= frameGeometry().right() - geometry().x();
     const int edge = reaches ? room.right() + 1 : width();
     const auto leftAt = [=](int distance) { return edge - pixels(buttonWidth + distance); };

@@ -25,7 +25,7 @@ class frmMdi : public QMainWindow {
     void savePictureRequested();
     void showAllRequested();
     void backRequested();
-    void closed();
+    void closed();  // the frame itself
 
   protected:
     void changeEvent(QEvent* event) override;
@@ -42,7 +42,7 @@ class frmMdi : public QMainWindow {
     void focusStrip(bool first);
     void placeStrip();
     void placeChart();
-    QRect placedBy() const;
+    QRect placementRect() const;
     int centredLeft(int width) const;
 
     frmDisplay* chart_;
@@ -54,5 +54,5 @@ class frmMdi : public QMainWindow {
     QPushButton* cmdMdiExit;
     QMdiArea* area_;
     QMdiSubWindow* chartWindow_;
-    bool wasRestored_ = false;  // since the frame was shown maximised
+    bool wasRestored_ = false;  // whether the frame has been, since it was shown maximised
 };

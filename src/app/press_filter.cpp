@@ -29,7 +29,7 @@ bool PressFilter::discards(QObject* receiver, QEvent* event) {
     }
 }
 
-// Qt 6.8 still: isAutoRepeat() is often false under X11, which repeats by a release and a press at one time;
+// Qt 6.8 still: isAutoRepeat() is often false under X11, which sends a release and a press at the same time,
 // and true on Windows for a key whose release went to a window that was closing. Only the last key repeats.
 bool PressFilter::isRepeated(const QKeyEvent& key) {
     constexpr quint64 atOnce = 2;  // milliseconds
@@ -47,11 +47,11 @@ bool PressFilter::isRepeated(const QKeyEvent& key) {
 // Where positions are not known, only the time counts, except for a popup, which is placed by its parent.
 bool PressFilter::isSecondClick(const QMouseEvent& click, QWindow* window) {
     const QWindow* before = std::exchange(clickedWindow_, window);
-    const quint64 time = click.timestamp() - std::exchange(clicked_, click.timestamp());
-    const QPointF way = click.globalPosition() - std::exchange(clickedPlace_, click.globalPosition());
+    const quint64 elapsed = click.timestamp() - std::exchange(clicked_, click.timestamp());
+    const QPointF moved = click.globalPosition() - std::exchange(clickedPlace_, click.globalPosition());
     if (before == nullptr || before == window || window->type() == Qt::Popup) return false;
     const bool fromPopup = before->type() == Qt::Popup && before->transientParent() == window;
-    const bool near = way.manhattanLength() <= QApplication::startDragDistance();
-    return (near || !(placesAreKnown() || fromPopup)) &&
-           time < static_cast<quint64>(QApplication::doubleClickInterval());
+    const bool placesCount = placesAreKnown() || fromPopup;
+    const bool near = !placesCount || moved.manhattanLength() <= QApplication::startDragDistance();
+    return near && elapsed < static_cast<quint64>(QApplication::doubleClickInterval());
 }

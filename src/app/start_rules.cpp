@@ -7,8 +7,8 @@
 
 #include "style/message.h"
 
-// The lock lies in a folder that only this user has; QStandardPaths returns no other as a runtime folder but,
-// on Windows, the home folder.
+// The lock file is in a folder of this user alone. On Windows the runtime folder of QStandardPaths is the
+// home folder, where no such file belongs.
 SingleInstance::SingleInstance() {
     for (const auto place : {QStandardPaths::RuntimeLocation, QStandardPaths::AppLocalDataLocation}) {
         const QString folder = QStandardPaths::writableLocation(place);

@@ -33,9 +33,9 @@ struct Row {
     std::array<Gap, 2> gaps;
 };
 
-// Intentional: the table differs from the usual calendar from 23 March to 20 May 1993 (1 and 2), from 5
-// October to 2 December 1994 (5 and 6), and in every gap of the last column. Days that a month does not have
-// get the number of its last real day, but those of February 1976 and 1995 the number of 1 March.
+// Intentional: unlike in the usual calendar, the numbers are 1 and 2 from 23 March to 20 May 1993, 5 and 6
+// from 5 October to 2 December 1994, and none in the gaps, the last column. A date that does not exist has
+// the number of the month's last day or, in February 1976 and 1995, that of 1 March.
 // clang-format off
 inline constexpr std::array<Row, yearCount> rows{{
     {1970, {{{1, Jan, 11}, {8, Jan, 12}, {6, Feb, 1}, {8, Mar, 2}, {6, Apr, 3}, {5, May, 4}, {4, Jun, 5}, {3, Jul, 6}, {2, Aug, 7}, {1, Sep, 8}, {30, Sep, 9}, {30, Oct, 10}, {29, Nov, 11}, {28, Dec, 12}}}, {}},

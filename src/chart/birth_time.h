@@ -16,8 +16,8 @@ static_assert(doubleHourOf(0, 59) == 1 && doubleHourOf(1, 0) == 1 && doubleHourO
 static_assert(doubleHourOf(13, 0) == 7 && doubleHourOf(13, 1) == 8);
 static_assert(doubleHourOf(22, 30) == 12 && doubleHourOf(23, 0) == 12 && doubleHourOf(23, 1) == 1);
 
-// The day after a date that exists, for which a birth at exactly 00:00 counts; nothing after 31 December
-// 2012, where the lists end. Intentional: nothing after 31 December 1999 either.
+// The day after a date that exists, for which a birth at exactly 00:00 counts. 31 December 2012, where the
+// lists end, has none. Intentional: 31 December 1999 has none either.
 constexpr std::optional<PickedDate> dayAfter(PickedDate date) {
     ++date.dayPosition;
     if (date.exists()) return date;

@@ -28,7 +28,7 @@ class Caption {
     std::uint8_t size_ = 0;
 };
 
-// The upper text, CR LF and the lower text: at most 15 characters, which a std::string stores in itself, too.
+// The upper text, CR LF and the lower text. A std::string of 15 characters allocates no memory either.
 inline Caption stacked(const Caption& upper, const Caption& lower) {
     const std::string both = std::string{upper.text()}.append("\r\n").append(lower.text());
     return std::string_view{both};

@@ -1,5 +1,5 @@
-// The chart: twelve palace cells and a few chart-wide values. The placement rules fill it; the chart window
-// and the composer of the analysis read it. Fields of a cell bear the names of the labels that show them.
+// The chart: twelve palace cells and a few values of the whole. The placement rules fill it; the chart window
+// and the composer read it. Fields are named after the labels that show them. Intentional: "Steam" and "Qi".
 #pragma once
 
 #include <array>
@@ -51,11 +51,11 @@ struct ChartCell : CellCaptions {
     bool lblHuaLu = false, lblHuaQuan = false, lblHuake = false, lblHuaJi = false;
     bool lblTianFutwo = false, lblTianGuan = false;
 
-    // Whether the star is shown in this cell. It may be left from a previous chart.
+    // Whether the star is shown in this cell, be it by a flag that a previous chart has left.
     bool holds(Star star) const;
 };
 
-// A field of a cell, which is either a caption or a flag, with its label's name and a star's text.
+// A field of a cell, with its label's name and its star's text. Of the two pointers to it, one is null.
 struct CellField {
     std::string_view name;
     Caption ChartCell::*caption;
@@ -68,8 +68,8 @@ struct StarRow {
     CellField field;
 };
 
-// The table of stars. Most have a label of their own name; the others share one, or Wen Qu's is lblWenQi.
-// "Tian Yue" and "Tian Fu" are the texts of two different stars each. Intentional: "Hua ke" has a small k.
+// The table of stars. Most have a label of their own; the major stars share three. "Tian Yue" and "Tian Fu"
+// are the texts of two different stars each. Intentional: "Hua ke" has a small k.
 // clang-format off
 #define CAPTION_IN(star, text, label) {Star::star, {#label, &ChartCell::label, nullptr, text}}
 #define CAPTION(star, text) CAPTION_IN(star, text, lbl##star)
@@ -134,7 +134,7 @@ static_assert(starsAreInOrder());
 
 constexpr const CellField& fieldOf(Star star) { return starTable[static_cast<std::size_t>(star)].field; }
 
-// Each field of a cell once: the three without stars, then those of starTable.
+// Each field of a cell once: the three without stars, then those of starTable, where a field's rows adjoin.
 inline constexpr auto cellFields = [] {
     std::array<CellField, 35> fields{{{"lblPalace", &ChartCell::lblPalace, nullptr, ""},
                                       {"lblPalaceSteam", &ChartCell::lblPalaceSteam, nullptr, ""},
@@ -165,7 +165,7 @@ struct ChartModel {
     Caption lblLifePalaceat;                     // the branch of the Life Palace's cell
     Caption lblBodyPalaceat;                     // the branch of the Body Palace's cell
     Caption lblElement;                          // the five-element bureau
-    Caption ziWeiBranch;                         // kept from chart to chart
+    Caption ziWeiBranch;                         // the branch of Zi Wei's cell; kept from chart to chart
     std::array<CellIndex, starCount> starCells;  // kept from chart to chart; cell 0 before the first
     std::array<ChartCell, cellCount> cells;
 

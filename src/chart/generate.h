@@ -7,8 +7,8 @@
 #include "chart/chart_model.h"
 
 // Casts the chart of an entry that has passed the input check. Returns the date of the chart: a birth at
-// exactly 00:00 counts for the day after. Returns nothing if there is none; the chart must not be shown.
+// exactly 00:00 counts for the day after. Without such a day, returns std::nullopt; show no chart then.
 //
-// Flags and marked branches of the previous chart stay until the caller calls loadCells(). Two values stay
-// even then: Zi Wei's branch and cell for a birth on a 31st, and LunarMonth for a date without a number.
+// Flags, and "Zi Wei" above a branch, stay from chart to chart until the caller calls loadCells(). Even then,
+// a 31st gets Zi Wei's branch and cell of the previous chart, and a date without a number its lunar month.
 [[nodiscard]] std::optional<PickedDate> generateChart(const BirthEntry& entry, ChartModel& chart);

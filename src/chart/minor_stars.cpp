@@ -4,32 +4,32 @@
 
 namespace {
 
-// A star counted round the square: its cell is `from` plus the number of the hour or month, or minus it.
+// A star counted round the square: as many cells from `from` as the number of the double-hour or month.
 struct CountedStar {
     Star star;
     int from;
-    int direction;
+    int direction;  // +1 forwards, -1 backwards
 };
 
-// By the double-hour h.
+// By the double-hour.
 constexpr std::array<CountedStar, 6> hourStars{{
-    {Star::WenChang, 9, -1},  //  9 - h
-    {Star::WenQu, 1, +1},     //  h + 1
-    {Star::DiJie, 8, +1},     //  h + 8
-    {Star::DiKong, 10, -1},   // 10 - h
-    {Star::TaiFu, 3, +1},     //  h + 3
-    {Star::FengGao, -1, +1},  //  h - 1
+    {Star::WenChang, 9, -1},
+    {Star::WenQu, 1, +1},
+    {Star::DiJie, 8, +1},
+    {Star::DiKong, 10, -1},
+    {Star::TaiFu, 3, +1},
+    {Star::FengGao, -1, +1},
 }};
 
-// By the lunar month m.
+// By the lunar month.
 constexpr std::array<CountedStar, 4> monthStars{{
-    {Star::ZuoFu, 1, +1},     // m + 1
-    {Star::YouBi, 9, -1},     // 9 - m
-    {Star::TianYao, -2, +1},  // m - 2
-    {Star::TianXing, 6, +1},  // m + 6
+    {Star::ZuoFu, 1, +1},
+    {Star::YouBi, 9, -1},
+    {Star::TianYao, -2, +1},
+    {Star::TianXing, 6, +1},
 }};
 
-// The cells of these stars, one row a month. Tian Yue follows no rule.
+// The cells of these stars, one row for each lunar month. Tian Yue's follow no formula.
 constexpr std::array monthFlagStars{Star::JieShen, Star::TianWu, Star::TianYue, Star::YinSha};
 constexpr std::array<std::array<int, monthFlagStars.size()>, 12> monthFlagCells{{
     // Jie Shen, Tian Wu, Tian Yue, Yin Sha

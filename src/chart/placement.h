@@ -1,5 +1,5 @@
-// The placement rules, one file each, in the order in which generateChart() calls them: a rule needs what
-// those before it have written into the chart.
+// The placement rules, in the order in which generateChart() calls them: a rule needs what those before it
+// have written into the chart.
 #pragma once
 
 #include "chart/chart_model.h"
@@ -11,9 +11,9 @@ void placeBodyPalace(ChartModel& chart);
 void placePalaceStems(ChartModel& chart);
 void placeElement(ChartModel& chart);
 
-// zi_wei.cpp: by the element and the day's list position (0..30, the solar day as entered). Zi Wei goes into
-// the cell whose branch text is exactly the branch that was found. On a 31st, or where that cell is already
-// marked, branch and cell are those of the previous chart.
+// zi_wei.cpp: by the element and the list position (0..30) of the solar day. Zi Wei goes into the cell whose
+// label shows only the branch that was found. On a 31st the branch is that of the previous chart; where the
+// label already shows "Zi Wei" above the branch, the cell is.
 void placeZiWei(ChartModel& chart, int dayPosition);
 
 // major_stars.cpp: the rest of the Zi Wei group, counted backwards from Zi Wei, and the Tian Fu group,
@@ -21,7 +21,7 @@ void placeZiWei(ChartModel& chart, int dayPosition);
 void placeMajorStars(ChartModel& chart);
 
 // minor_stars.cpp: by the double-hour, by the lunar month, and by the solar day (1..31) from the cells of
-// Wen Chang, Wen Qu, Zuo Fu and You Bi. Lunar month 0 has no month stars that are flags.
+// Wen Chang, Wen Qu, Zuo Fu and You Bi. Lunar month 0 places no month stars that are flags.
 void placeHourStars(ChartModel& chart);
 void placeMonthStars(ChartModel& chart);
 void placeDayStars(ChartModel& chart, int day);

@@ -4,8 +4,8 @@ namespace {
 
 constexpr std::array stemStars{Star::LuCun, Star::TianKui, Star::TianYueTwo, Star::TianGuan, Star::TianFutwo};
 
-// The cells of these stars, one row a last digit of the year. Intentional: Tian Kui and Tian Yue stand apart
-// for Xin and for Bing and Ding.
+// The cells of these stars, one row for each last digit of the year. Intentional: Tian Kui and Tian Yue of
+// Xin stand where the tradition has those of Bing and Ding, and the other way round.
 // clang-format off
 constexpr std::array<std::array<int, stemStars.size()>, 10> stemCells{{
     // Lu Cun, Tian Kui, Tian Yue, Tian Guan, Tian Fu
@@ -23,7 +23,7 @@ constexpr std::array<std::array<int, stemStars.size()>, 10> stemCells{{
 
 constexpr std::array transformations{Star::HuaLu, Star::HuaQuan, Star::Huake, Star::HuaJi};
 
-// The stars that the transformations mark, one row a last digit of the year.
+// The stars that the transformations mark, one row for each last digit of the year.
 constexpr std::array<std::array<Star, transformations.size()>, 10> transformedStars{{
     // Hua Lu         Hua Quan         Hua ke           Hua Ji
     {Star::TaiYang,   Star::WuQu,      Star::TianTong,  Star::TaiYin},  // 0 Geng
@@ -46,7 +46,7 @@ void placeYearStemStars(ChartModel& chart) {
     for (std::size_t i = 0; i < stemStars.size(); ++i) {
         chart.place(stemStars[i], CellIndex{stemCells[digit][i]});
     }
-    // Intentional: Qing Yang stands before Lu Cun, and Tuo Luo after it.
+    // Intentional: Qing Yang stands before Lu Cun and Tuo Luo after it, the reverse of the tradition.
     chart.place(Star::QingYang, chart.cellOf(Star::LuCun) - 1);
     chart.place(Star::TuoLuo, chart.cellOf(Star::LuCun) + 1);
     for (std::size_t i = 0; i < transformations.size(); ++i) {

@@ -6,7 +6,7 @@ namespace {
 
 constexpr std::array<Caption, 5> elementNames{"Water", "Wood", "Metal", "Earth", "Fire"};
 
-// Zi Wei's branch for the days 1 to 30, one column an element. Intentional: day 26 of Earth is Chen.
+// Zi Wei's branch by the day, 1 to 30, and the element. Intentional: day 26 of Earth is Chen, not Hai.
 // clang-format off
 constexpr std::array<std::array<Caption, elementNames.size()>, 30> ziWeiBranches{{
     // Water  Wood    Metal   Earth   Fire

@@ -84,11 +84,11 @@ std::unique_ptr<QTextDocument> printedPart(const std::vector<TextRun>& runs, int
 void hidePageNumbers(QPrintDialog& dialog) {
     const auto* options = dialog.findChild<QWidget*>(QStringLiteral("copiesTab"));
     if (options == nullptr) return;
-    auto* drawer = new QWidget{&dialog};
-    drawer->hide();
+    auto* hidden = new QWidget{&dialog};
+    hidden->hide();
     for (const char* name : {"printRange", "from", "label_3", "to", "pagesRadioButton", "pagesLineEdit",
                              "printCurrentPage", "pageSetLabel", "pageSetCombo", "reverse"}) {
-        if (auto* control = options->findChild<QWidget*>(latin(name))) control->setParent(drawer);
+        if (auto* control = options->findChild<QWidget*>(latin(name))) control->setParent(hidden);
     }
 }
 
@@ -108,9 +108,9 @@ void proposeFile(QPrintDialog& dialog, const QString& name) {
         box->setText(QDir{box->text()}.filePath(name + QStringLiteral(".pdf")));
 }
 
-// Whether the person wants to print. The dialog of Windows, which has no layout, opens only where there is a
-// printer; without one, the pages go to a file there.
-bool isWanted(QPrintDialog& dialog, QPrinter& printer) {
+// Opens the dialog and returns whether to print. The native dialog of Windows, which has no layout, opens
+// only where there is a printer; without one, a file dialog asks where to print to.
+bool askToPrint(QPrintDialog& dialog, QPrinter& printer) {
     if (dialog.layout() != nullptr || printer.outputFormat() == QPrinter::NativeFormat)
         return dialog.exec() == QDialog::Accepted;
     const QString name = printer.docName() + QStringLiteral(".pdf");
@@ -155,7 +155,7 @@ void printAnalysis(const std::vector<TextRun>& runs, int start, int end, QWidget
     if (auto* all = dialog.findChild<QRadioButton*>(QStringLiteral("printAll"))) all->setEnabled(!selected);
     hidePageNumbers(dialog);
     proposeFile(dialog, printer.docName());
-    if (!isWanted(dialog, printer)) return;
+    if (!askToPrint(dialog, printer)) return;
     replaceDefaultMargins(printer);
     printOnPaper(*printedPart(runs, start, end), printer);
 }

@@ -286,7 +286,7 @@ bool frmDisplay::coverEvent(LblCover* cover, QEvent* event) {
     }
 }
 
-// Whether the key is an arrow key, which moves the focus to the next cell.
+// Moves the focus to the next cell if the key is an arrow key, and returns whether it is.
 bool frmDisplay::moveFocus(const LblCover* from, int key) {
     const QPoint step{(key == Qt::Key_Right) - (key == Qt::Key_Left),
                       (key == Qt::Key_Down) - (key == Qt::Key_Up)};
@@ -297,7 +297,7 @@ bool frmDisplay::moveFocus(const LblCover* from, int key) {
     return true;
 }
 
-// Qt 6.8 still: the Tab key never leaves a QMdiSubWindow.
+// Not left to Qt, where the Tab key leaves a QMdiSubWindow only while it holds no other tab stop.
 bool frmDisplay::focusNextPrevChild(bool next) {
     emit tabbedOut(next);
     return true;

@@ -129,7 +129,7 @@ inline constexpr std::array<CentreLabel, 13> centreLabels{{
 }};
 // clang-format on
 
-// The line below the person.
+// The line below the time of birth.
 inline constexpr QLine centreRule{1800, 1800, 5400, 1800};
 
 // The index of the row with that name. A name that is not in the table does not compile.
@@ -140,7 +140,6 @@ consteval std::size_t rowOf(const Table& table, std::string_view name) {
     return row;
 }
 
-// The field that each label of a cell shows.
 consteval auto fieldsOfLabels() {
     std::array<CellField, cellLabels.size()> fields{};
     for (std::size_t i = 0; i < fields.size(); ++i)
@@ -149,7 +148,6 @@ consteval auto fieldsOfLabels() {
 }
 inline constexpr auto labelFields = fieldsOfLabels();
 
-// The longest text that a label of a cell shows.
 constexpr std::string_view longestTextOf(std::size_t label) {
     const std::string_view named = cellLabels[label].longestText;
     return named.empty() ? labelFields[label].text.text() : named;

@@ -14,12 +14,11 @@
 
 namespace {
 
-// What a dialog asks for.
 struct Request {
     QFileDialog::AcceptMode mode;
     const char* title;
     const char* filter;
-    std::string_view extension;  // for a name that is not found or, to save, has no dot
+    std::string_view extension;  // added to a name without a file (to open) or without a dot (to save)
     bool replaces = false;       // an existing file, after a question
 };
 
@@ -45,7 +44,7 @@ QString obstacleTo(const Request& request, const QFileInfo& file) {
         return QStringLiteral("The name is too long.");
     if (hasForbiddenCharacter(file.fileName()))
         return QStringLiteral("A file name can't contain any of these characters:  < > : \" | ? *");
-    // Tried out: what QFileInfo tells of permissions is not enough on Windows.
+    // By trying, because the permissions that QFileInfo knows are not all on Windows.
     return QTemporaryFile{folder.filePath() + QStringLiteral("/XXXXXX")}.open()
                ? QString{}
                : QStringLiteral("Nothing can be saved in this folder.");
@@ -58,7 +57,6 @@ class FileDialog : public QFileDialog {
         setAcceptMode(request.mode);
     }
 
-    // Returns the chosen path, or an empty text where the dialog was cancelled.
     QString ask() {
         const QSize room = parentWidget()->screen()->availableSize() - QSize{40, 60};
         resize(sizeHint().expandedTo(QSize{720, 460}).boundedTo(room));
@@ -77,7 +75,7 @@ class FileDialog : public QFileDialog {
         const bool quoted = box != nullptr && box->text().contains(QLatin1Char('"'));
         const QString typed = quoted ? directory().absoluteFilePath(box->text()) : selectedFiles().value(0);
         const QFileInfo given{typed};
-        if (given.isDir()) return QFileDialog::accept();  // goes there
+        if (given.isDir()) return QFileDialog::accept();  // shows the folder
         const bool opens = request_.mode == AcceptOpen;
         const bool complete = opens ? given.exists() : given.fileName().contains(QLatin1Char('.'));
         path_ = complete ? typed : typed + latin(request_.extension);

@@ -33,7 +33,7 @@ std::string pictureNameFor(std::string_view name, const PictureSurroundings& aro
     return replaced(name, ".bmp", pictureExtension);
 }
 
-// The name without so many bytes, or a few more to keep UTF-8 whole, before its first dot.
+// The name with so many bytes less before its first dot, or a few more where a UTF-8 character would be cut.
 std::string shortened(std::string_view name, std::size_t excess) {
     const std::size_t dot = name.find('.');
     std::size_t end = dot - std::min(excess, dot);

@@ -32,10 +32,21 @@ class EntryView : public QListView {
     }
 };
 
+// Called only when a key is pressed, because five more views would slow the start down.
+void useEntryView(QComboBox* list) {
+    if (dynamic_cast<EntryView*>(list->view()) == nullptr) list->setView(new EntryView);
+}
+
 void fillNumbers(QComboBox* list, int first, int count) {
     QStringList numbers;
     for (int number = first; number < first + count; ++number) numbers += QString::number(number);
     list->addItems(numbers);
+}
+
+bool isEnterPress(const QEvent& event) {
+    if (event.type() != QEvent::KeyPress) return false;
+    const int key = static_cast<const QKeyEvent&>(event).key();
+    return key == Qt::Key_Return || key == Qt::Key_Enter;
 }
 
 // A label that is also the accessible name of its control.
@@ -45,7 +56,6 @@ QLabel* caption(const char* words, QWidget* control = nullptr) {
     return label;
 }
 
-// A column of the grid: the caption and, below it, the list.
 void addList(QGridLayout* grid, int row, int column, const char* heading, QComboBox* list) {
     grid->addWidget(caption(heading, list), row, column);
     grid->addWidget(list, row + 1, column);
@@ -237,7 +247,7 @@ void frmMain::clearEntry() {
     txtName->setFocus();
 }
 
-// Not by QDialog, which would call reject().
+// QDialog::closeEvent() would call reject(), which does nothing here.
 void frmMain::closeEvent(QCloseEvent*) { emit closed(); }
 
 // Accepts one chart file while no dialog is open. Always as a copy: after a move, the sender deletes it.
@@ -262,19 +272,14 @@ void frmMain::dropEvent(QDropEvent* event) {
 // A list handles the wheel only while it has the focus. Qt 6.8 still: where the desktop lets Enter press
 // buttons, QComboBox and QGroupBox handle it, too, and it would not reach the default button.
 bool frmMain::eventFilter(QObject* watched, QEvent* event) {
-    const bool pressed = event->type() == QEvent::KeyPress;
-    bool ignored = pressed || event->type() == QEvent::KeyRelease;
-    if (auto* list = qobject_cast<QComboBox*>(watched)) {
-        const int key = pressed ? static_cast<QKeyEvent*>(event)->key() : 0;
-        const bool enter = key == Qt::Key_Return || key == Qt::Key_Enter;
-        ignored = enter || (event->type() == QEvent::Wheel && !list->hasFocus());
-        // Only now: five more views would slow the start down.
-        if (pressed && !enter && dynamic_cast<EntryView*>(list->view()) == nullptr)
-            list->setView(new EntryView);
-    }
-    if (!ignored) return QDialog::eventFilter(watched, event);
-    event->ignore();
-    return true;
+    auto* list = qobject_cast<QComboBox*>(watched);
+    const QEvent::Type type = event->type();
+    const bool ignored = list == nullptr
+                             ? type == QEvent::KeyPress || type == QEvent::KeyRelease
+                             : isEnterPress(*event) || (type == QEvent::Wheel && !list->hasFocus());
+    if (ignored) event->ignore();
+    if (!ignored && list != nullptr && type == QEvent::KeyPress) useEntryView(list);
+    return ignored || QDialog::eventFilter(watched, event);
 }
 
 // Escape does nothing: it would close the main window of the program and lose what was entered.
@@ -300,7 +305,7 @@ void frmMain::setVisible(bool visible) {
         fitToScreen();
         const QRect room = screen()->availableGeometry();
         const QSize rest = (room.size() - size()) / 2;
-        move(room.topLeft() + QPoint{rest.width(), rest.height() / 2});
+        move(room.topLeft() + QPoint{rest.width(), rest.height() / 2});  // above the middle
     }
     QDialog::setVisible(visible);
     if (visible)

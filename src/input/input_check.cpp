@@ -12,7 +12,7 @@ std::u16string filterName(std::u16string_view text) {
     std::u16string accepted;
     for (const char16_t character : text) {
         if (character >= u'a' && character <= u'z') {
-            accepted += static_cast<char16_t>(character - 32);
+            accepted += static_cast<char16_t>(character - u'a' + u'A');
         } else if ((character >= u'A' && character <= u'Z') || character == u' ') {
             accepted += character;
         }

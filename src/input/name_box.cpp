@@ -50,7 +50,7 @@ void NameBox::enter(const QString& text) {
 
 void NameBox::paste(QClipboard::Mode mode) { enter(QGuiApplication::clipboard()->text(mode)); }
 
-// Filters a text that was set, not edited, as assistive technology does to replace or to insert text.
+// Assistive technology sets the whole text, even to insert some; only what differs from before is filtered.
 void NameBox::filterSetText(const QString& text) {
     const QString before = std::exchange(lastText_, text);
     if (std::exchange(edited_, false)) return;
@@ -80,7 +80,7 @@ void NameBox::keyPressEvent(QKeyEvent* event) {
     }
 }
 
-// A composition replaces the selection when it begins. If nothing comes of it, undo() restores that.
+// A composition deletes the selection when it begins. If it enters nothing, undo() restores the selection.
 void NameBox::inputMethodEvent(QInputMethodEvent* event) {
     const bool composes = !event->preeditString().isEmpty();
     const QString name = filtered(event->commitString());
@@ -106,7 +106,7 @@ void NameBox::contextMenuEvent(QContextMenuEvent* event) {
     QMenu* menu = createStandardContextMenu();
     menu->setAttribute(Qt::WA_DeleteOnClose);
     for (QAction* entry : menu->actions()) {
-        if (entry->menu() != nullptr) entry->setVisible(false);  // control characters, which no name has
+        if (entry->menu() != nullptr) entry->setVisible(false);  // inserts Unicode control characters
         if (!entry->text().startsWith(QLineEdit::tr("&Paste"))) continue;
         disconnect(entry, &QAction::triggered, nullptr, nullptr);
         connect(entry, &QAction::triggered, this, [this] { paste(QClipboard::Clipboard); });

@@ -13,7 +13,7 @@ class NameBox : public QLineEdit {
     void setName(const QString& name);
 
   signals:
-    // The filter has removed something that is neither a letter nor a blank.
+    // The filter has removed something that is neither a letter from A to Z nor a blank.
     void rejected();
 
   protected:

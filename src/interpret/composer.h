@@ -15,5 +15,5 @@ TextRun introRun();
 // gives neither description nor stars.
 std::vector<TextRun> composePalaceAnalysis(const ChartModel& chart, int cell);
 
-// The runs of all twelve palaces in the order of the cells, each followed by two empty lines.
+// The runs of all twelve palaces in the order of the cells, each followed by two more line breaks.
 std::vector<TextRun> composeAllPalaces(const ChartModel& chart);

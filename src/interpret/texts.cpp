@@ -1,6 +1,6 @@
 #include "interpret/texts.h"
 
-// One text a line, so that each can be read and mended as a whole.
+// One text a line, so that each can be read and changed as a whole.
 // clang-format off
 
 const std::string_view introText =

@@ -16,7 +16,7 @@ QStringList families() {
     return {hasVerdana ? QStringLiteral("Verdana") : QStringLiteral("DejaVu Sans")};
 }
 
-constexpr double legible = 4.5;
+constexpr double legible = 4.5;  // the contrast that WCAG demands of text
 
 // The relative luminance of WCAG, from 0 for black to 1 for white.
 double luminance(const QColor& colour) {
@@ -59,7 +59,7 @@ double contrast(const QColor& one, const QColor& other) {
 }
 
 QColor focusColour(const QPalette& palette) {
-    constexpr double distinct = 3;
+    constexpr double distinct = 3;  // the contrast that WCAG demands of controls
     const QColor highlight = palette.color(QPalette::Highlight);
     for (const auto beside : {QPalette::Window, QPalette::Base, QPalette::Button}) {
         if (contrast(highlight, palette.color(beside)) < distinct) return palette.color(QPalette::WindowText);

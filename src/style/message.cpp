@@ -7,15 +7,15 @@
 
 namespace {
 
-bool types(const QKeyEvent& event) {
+bool entersText(const QKeyEvent& event) {
     return !event.text().isEmpty() && event.text().front().isPrint() &&
            !(event.modifiers() & (Qt::ControlModifier | Qt::AltModifier));
 }
 
 QString defaultTitle() { return look::productName() + QStringLiteral(" Message"); }
 
-// A message box with plain text. As an event filter of a button, it discards printable characters: mayAct()
-// does not cover the dialog's own button, and Space, typed on after the message has opened, would press it.
+// A message box with plain text. As the event filter of its button, it discards printable characters: Space
+// from a person who types on after the message has opened would press the button.
 class Message : public QMessageBox {
   public:
     Message(QWidget* parent, Icon icon, const QString& title, const QString& text, StandardButtons buttons)
@@ -27,7 +27,7 @@ class Message : public QMessageBox {
 
   protected:
     bool eventFilter(QObject* watched, QEvent* event) override {
-        const bool typed = event->type() == QEvent::KeyPress && types(*static_cast<QKeyEvent*>(event));
+        const bool typed = event->type() == QEvent::KeyPress && entersText(*static_cast<QKeyEvent*>(event));
         return typed || QMessageBox::eventFilter(watched, event);
     }
 };

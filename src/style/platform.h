@@ -11,7 +11,7 @@ inline bool placesAreKnown() {
     return !QGuiApplication::platformName().startsWith(QStringLiteral("wayland"));
 }
 
-// Whether Windows, where the program runs on it, refuses a character of the file name.
+// Whether the file name has a character that Windows forbids; false on other systems.
 inline bool hasForbiddenCharacter(const QString& fileName) {
     static const QRegularExpression forbidden{QStringLiteral("[<>:\"|?*]")};
     return QDir::separator() == QLatin1Char('\\') && fileName.contains(forbidden);
