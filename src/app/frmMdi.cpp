@@ -83,7 +83,6 @@ void frmMdi::hostChart() {
     connect(chart_, &frmDisplay::savePictureRequested, this, &frmMdi::savePictureRequested);
     connect(chart_, &frmDisplay::backRequested, this, &frmMdi::backRequested);
     connect(chart_, &frmDisplay::exitRequested, this, &frmMdi::cmdMdiExit_Click);
-    connect(chart_, &frmDisplay::tabbedOut, this, &frmMdi::focusStrip);
     // Queued, because the chart window takes the focus when it is shown.
     QMetaObject::invokeMethod(cmdShowAll, qOverload<>(&QWidget::setFocus), Qt::QueuedConnection);
 }
@@ -116,10 +115,6 @@ void frmMdi::changeEvent(QEvent* event) {
 }
 
 void frmMdi::cmdMdiExit_Click() { close(); }
-
-void frmMdi::focusStrip(bool first) {
-    first ? lblBanner->setFocus(Qt::TabFocusReason) : cmdMdiExit->setFocus(Qt::BacktabFocusReason);
-}
 
 // The rectangle in which strip and chart are placed, in the frame's coordinates: the screen's while the frame
 // fills it, else the frame's own. Where positions are not known, the frame counts as centred on the screen.

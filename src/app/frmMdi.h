@@ -39,7 +39,6 @@ class frmMdi : public QMainWindow {
     void MDIForm_Load();
     void hostChart();
     void followPalette();
-    void focusStrip(bool first);
     void placeStrip();
     void placeChart();
     QRect placementRect() const;

@@ -6,13 +6,15 @@
 #include <QStandardPaths>
 
 #include "style/message.h"
+#include "style/platform.h"
 
-// The lock file is in a folder of this user alone. On Windows the runtime folder of QStandardPaths is the
-// home folder, where no such file belongs.
+// The lock file is in a folder of this user alone. On Windows, QStandardPaths returns the home folder as the
+// runtime folder, where no such file belongs.
 SingleInstance::SingleInstance() {
     for (const auto place : {QStandardPaths::RuntimeLocation, QStandardPaths::AppLocalDataLocation}) {
         const QString folder = QStandardPaths::writableLocation(place);
-        if (folder.isEmpty() || folder == QDir::homePath() || !QDir{}.mkpath(folder)) continue;
+        const bool isHome = isWindows() && place == QStandardPaths::RuntimeLocation;
+        if (isHome || folder.isEmpty() || !QDir{}.mkpath(folder)) continue;
         lock_ = std::make_unique<QLockFile>(QDir{folder}.filePath(QStringLiteral("palace-lantern.lock")));
         if (lock_->tryLock()) return;
         anotherIsRunning_ = lock_->error() == QLockFile::LockFailedError;

@@ -297,12 +297,6 @@ bool frmDisplay::moveFocus(const LblCover* from, int key) {
     return true;
 }
 
-// Not left to Qt, where the Tab key leaves a QMdiSubWindow only while it holds no other tab stop.
-bool frmDisplay::focusNextPrevChild(bool next) {
-    emit tabbedOut(next);
-    return true;
-}
-
 // The chart is one stop in the tab order, at the cell that had the focus last; arrow keys move within it. A
 // click does not scroll, so that the cell stays below the pointer.
 void frmDisplay::followFocus(LblCover* cover, Qt::FocusReason reason) {

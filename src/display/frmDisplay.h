@@ -38,11 +38,9 @@ class frmDisplay : public QWidget {
     void savePictureRequested();
     void backRequested();
     void exitRequested();
-    void tabbedOut(bool forwards);  // the Tab key left the chart
 
   protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
-    bool focusNextPrevChild(bool next) override;
     void showEvent(QShowEvent* event) override;
 
   private:

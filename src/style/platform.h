@@ -1,4 +1,4 @@
-// What differs between window systems.
+// What differs between systems.
 #pragma once
 
 #include <QDir>
@@ -11,8 +11,10 @@ inline bool placesAreKnown() {
     return !QGuiApplication::platformName().startsWith(QStringLiteral("wayland"));
 }
 
+inline bool isWindows() { return QDir::separator() == QLatin1Char('\\'); }
+
 // Whether the file name has a character that Windows forbids; false on other systems.
 inline bool hasForbiddenCharacter(const QString& fileName) {
     static const QRegularExpression forbidden{QStringLiteral("[<>:\"|?*]")};
-    return QDir::separator() == QLatin1Char('\\') && fileName.contains(forbidden);
+    return isWindows() && fileName.contains(forbidden);
 }
