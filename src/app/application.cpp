@@ -95,7 +95,8 @@ void Application::saveChart(QWidget* parent) {
 void Application::cmdBack_Click() {
     input_->clearEntry();
     frame_->hide();
-    input_->showInPlaceOf(*frame_);
+    input_->setScreen(frame_->screen());
+    input_->show();
     frame_.release()->deleteLater();
     chart_.loadCells();
 }

@@ -204,11 +204,6 @@ void frmMain::txtName_KeyPress() {
     showMessage(this, QMessageBox::Information, QStringLiteral("Please Enter Only Letters"));
 }
 
-void frmMain::showInPlaceOf(const QWidget& frame) {
-    setScreen(frame.screen());
-    show();
-}
-
 void frmMain::fillIn(const ChartFileValues& values) {
     txtName->setName(latin(values.name));
     cmbDate->setCurrentText(latin(values.day));

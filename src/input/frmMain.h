@@ -20,9 +20,6 @@ class frmMain : public QDialog {
 
     void setVisible(bool visible) override;
 
-    // Shows the form on the screen of the frame that it replaces.
-    void showInPlaceOf(const QWidget& frame);
-
     // Fills in the name and the date of a chart file. A value that is not in its list is ignored.
     void fillIn(const ChartFileValues& values);
 
