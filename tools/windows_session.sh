@@ -79,7 +79,8 @@ wine start /unix "$drive${path#C:}.plf"
 at "$title Message" second Return
 at "$title" opened =9 Tab =30 Return
 at "$chart" chart-again alt+h a
-compare -metric AE pictures/chart.png pictures/chart-again.png null:
+# But for the edge of the button in focus, which fades in.
+[ "$(compare -metric AE pictures/chart.png pictures/chart-again.png null: 2>&1)" -lt 100 ]
 at "About $title" about Escape
 at "$chart" - alt+e
 wait_for_end
