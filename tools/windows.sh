@@ -13,7 +13,6 @@ export HOME=$folder/home WINEPREFIX=$folder/wine WINEPATH="$folder/libraries/bin
 make_installer() {
     build windows palace-lantern
     quietly "Packing" cpack --config build/windows/CPackConfig.cmake -B build/windows
-    rm -rf build/windows/pictures
     quietly "A sample birth under Wine" tools/display.sh tools/windows_session.sh
     echo "The installer is $(echo "$folder"/*-setup.exe), pictures are in $folder/pictures"
 }
