@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QCommandLineParser>
 #include <cstdio>
+#include <cstdlib>
 
 #include "app/application.h"
 #include "app/prepare_toolkit.h"

@@ -12,15 +12,11 @@ std::u16string_view trimmed(std::u16string_view name) {
     return name.substr(first, name.find_last_not_of(u' ') - first + 1);
 }
 
-ChartInput inputOf(const BirthEntry& entry) {
-    return {std::u16string{trimmed(entry.name)}, static_cast<std::int16_t>(entry.date.year()),
-            entry.date.monthText(), static_cast<std::int16_t>(entry.date.day())};
-}
-
 }  // namespace
 
 std::optional<PickedDate> generateChart(const BirthEntry& entry, ChartModel& chart) {
-    chart.input = inputOf(entry);
+    chart.input = {std::u16string{trimmed(entry.name)}, static_cast<std::int16_t>(entry.date.year()),
+                   entry.date.monthText(), static_cast<std::int16_t>(entry.date.day())};
     chart.clearCaptions();
     const bool midnight = entry.hourPosition == 0 && entry.minutePosition == 0;
     const auto date = midnight ? dayAfter(entry.date) : entry.date;

@@ -47,9 +47,7 @@ constexpr const LabelLook& lookOf(LabelKind kind) { return labelLooks[static_cas
 // label shows only one star.
 struct CellLabel {
     std::string_view name;
-    int left;
-    int top;
-    int minimumWidth;
+    int left, top, minimumWidth;
     LabelKind kind;
     std::string_view longestText = {};
 };
@@ -103,10 +101,7 @@ inline constexpr std::array<CellLabel, 35> cellLabels{{
 struct CentreLabel {
     std::string_view name;
     std::string_view prompt;
-    int left;
-    int top;
-    int width;
-    int height;
+    int left, top, width, height;
     LabelKind kind;
     bool centred;
 };

@@ -25,10 +25,7 @@ bool hasChartFileEnding(std::string_view name);
 
 // The decoded values of a chart file, in Latin-1; empty where a line is missing.
 struct ChartFileValues {
-    std::string name;
-    std::string day;
-    std::string month;
-    std::string year;
+    std::string name, day, month, year;
 };
 
 // Lines end in CR LF, LF or CR; those after the fourth are ignored.

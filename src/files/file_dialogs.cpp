@@ -55,6 +55,7 @@ class FileDialog : public QFileDialog {
     FileDialog(const Request& request, QWidget* parent)
         : QFileDialog(parent, latin(request.title), QString{}, latin(request.filter)), request_(request) {
         setAcceptMode(request.mode);
+        if (request.mode == AcceptOpen) setFileMode(ExistingFile);
     }
 
     QString ask() {
@@ -94,11 +95,7 @@ class FileDialog : public QFileDialog {
 
 }  // namespace
 
-QString askForChartFile(QWidget* parent) {
-    FileDialog dialog{chartToOpen, parent};
-    dialog.setFileMode(QFileDialog::ExistingFile);
-    return dialog.ask();
-}
+QString askForChartFile(QWidget* parent) { return FileDialog{chartToOpen, parent}.ask(); }
 
 QString askWhereToSaveChart(QWidget* parent) { return FileDialog{chartToSave, parent}.ask(); }
 

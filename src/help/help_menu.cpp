@@ -5,6 +5,7 @@
 #include <QDir>
 #include <QElapsedTimer>
 #include <QProcess>
+#include <QUrl>
 #include <array>
 
 #include "help/frmAbout.h"
@@ -22,6 +23,14 @@ QDir helpFolder() {
     return beside.exists() ? beside : QDir{program.filePath(QStringLiteral(PALACE_LANTERN_HELP_FOLDER))};
 }
 
+// Below PALACE_LANTERN_WEB_BASE or, if that is empty, among the installed help pages.
+QUrl addressOf(WebPage page) {
+    const QString base = QStringLiteral(PALACE_LANTERN_WEB_BASE);
+    const QString file = latin(fileNames[static_cast<std::size_t>(page)]);
+    if (base.isEmpty()) return QUrl::fromLocalFile(QDir::cleanPath(helpFolder().absoluteFilePath(file)));
+    return QUrl{base.endsWith(QLatin1Char('/')) ? base : base + QLatin1Char('/')}.resolved(QUrl{file});
+}
+
 // xdg-open fails within seconds if it finds no browser. A process that ends later was the browser itself.
 constexpr int patience = 10'000;  // milliseconds
 
@@ -35,13 +44,6 @@ void tellAddress(const QUrl& address, QWidget* asker) {
 }
 
 }  // namespace
-
-QUrl addressOf(WebPage page) {
-    const QString base = QStringLiteral(PALACE_LANTERN_WEB_BASE);
-    const QString file = latin(fileNames[static_cast<std::size_t>(page)]);
-    if (base.isEmpty()) return QUrl::fromLocalFile(QDir::cleanPath(helpFolder().absoluteFilePath(file)));
-    return QUrl{base.endsWith(QLatin1Char('/')) ? base : base + QLatin1Char('/')}.resolved(QUrl{file});
-}
 
 // Qt 6.8 still: QDesktopServices does not report whether a browser opened the page, so xdg-open is tried
 // first. The process has no parent, because it may become the browser, which outlives the program. The

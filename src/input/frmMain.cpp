@@ -10,6 +10,7 @@
 #include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QUrl>
 #include <QWindow>
 
 #include "files/chart_file.h"

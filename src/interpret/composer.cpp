@@ -7,10 +7,8 @@
 namespace {
 
 constexpr TextStyle heading{true, 9, analysisBlue};
-constexpr TextStyle palaceBody{true, 8, analysisBrown};
-constexpr TextStyle starGeneral{true, 8, {0, 0, 0}};
-constexpr TextStyle starInPalaceBody{true, 8, analysisBrown};
-constexpr TextStyle intro{true, 8, {0, 0, 0}};
+constexpr TextStyle ofPalace{true, 8, analysisBrown};
+constexpr TextStyle general{true, 8, {0, 0, 0}};
 constexpr TextStyle detailsLine{true, 8, analysisRed};
 
 constexpr std::string_view paragraphEnd = "\r\n\r\n";
@@ -30,8 +28,8 @@ void append(Runs& runs, std::string_view headingText, std::string_view body, con
 
 void appendStar(Runs& runs, std::size_t star, std::size_t palace) {
     const std::string name{fieldOf(starTexts[star].star).text.text()};
-    append(runs, name + " Star :- ", starTexts[star].general, starGeneral);
-    runs.push_back(paragraph(starInPalaceTexts[star][palace], starInPalaceBody));
+    append(runs, name + " Star :- ", starTexts[star].general, general);
+    runs.push_back(paragraph(starInPalaceTexts[star][palace], ofPalace));
 }
 
 // The index of the palace whose name is in the cell, or palaceNames.size() if the name is unknown.
@@ -43,9 +41,9 @@ std::size_t palaceIn(const ChartModel& chart, CellIndex cell) {
 void appendPalace(Runs& runs, const ChartModel& chart, CellIndex cell) {
     const std::size_t palace = palaceIn(chart, cell);
     const bool known = palace < palaceTexts.size();
-    if (known) append(runs, palaceTexts[palace].heading, palaceTexts[palace].description, palaceBody);
+    if (known) append(runs, palaceTexts[palace].heading, palaceTexts[palace].description, ofPalace);
     runs.push_back(paragraph(details, detailsLine));
-    if (chart.bodyPalace == cell) append(runs, bodyPalaceHeading, bodyPalaceText, palaceBody);
+    if (chart.bodyPalace == cell) append(runs, bodyPalaceHeading, bodyPalaceText, ofPalace);
     for (std::size_t star = 0; known && star < starTexts.size(); ++star) {
         if (chart.cellOf(starTexts[star].star) == cell) appendStar(runs, star, palace);
     }
@@ -53,7 +51,7 @@ void appendPalace(Runs& runs, const ChartModel& chart, CellIndex cell) {
 
 }  // namespace
 
-TextRun introRun() { return paragraph(introText, intro); }
+TextRun introRun() { return paragraph(introText, general); }
 
 std::vector<TextRun> composePalaceAnalysis(const ChartModel& chart, int cell) {
     Runs runs;

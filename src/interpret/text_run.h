@@ -5,9 +5,7 @@
 #include <string>
 
 struct Rgb {
-    std::uint8_t red;
-    std::uint8_t green;
-    std::uint8_t blue;
+    std::uint8_t red, green, blue;
     friend constexpr bool operator==(const Rgb&, const Rgb&) = default;
 };
 
