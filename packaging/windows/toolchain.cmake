@@ -1,4 +1,4 @@
-# Debian's cross-compiler for 64-bit Windows; the libraries are those that tools/windows_libraries.sh has built with
+# Debian's cross-compiler for 64-bit Windows; the libraries are those that tools/windows.sh has built with
 # it, and Qt's tools are those that run here.
 set(CMAKE_SYSTEM_NAME Windows)
 set(CMAKE_SYSTEM_PROCESSOR x86_64)
@@ -10,5 +10,4 @@ foreach(kind LIBRARY INCLUDE PACKAGE)
     set(CMAKE_FIND_ROOT_PATH_MODE_${kind} ONLY)
 endforeach()
 set(QT_HOST_PATH /usr)
-file(GLOB host_tools /usr/lib/*/cmake/Qt6CoreTools)
-cmake_path(GET host_tools PARENT_PATH QT_HOST_PATH_CMAKE_DIR)
+file(GLOB QT_HOST_PATH_CMAKE_DIR /usr/lib/*-linux-gnu/cmake)

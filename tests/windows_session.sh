@@ -17,7 +17,7 @@ wait_for() {
     exit 1
 }
 comes_forward() {
-    [ "$(xdotool getactivewindow)" != "$front" ] && [ "$(xdotool getactivewindow getwindowname)" = "$1" ]
+    [ "$(xdotool getactivewindow)" != "$front" ] && [[ $(xdotool getactivewindow getwindowname) =~ ^"$1"\ ?$ ]]
 }
 stands_still() { [ "$(import -window root rgb:- | cksum)" = "$(sleep 0.3 && import -window root rgb:- | cksum)" ]; }
 is_gone() { ! "$@"; }
@@ -41,15 +41,23 @@ at() {
     done
 }
 
+# The pages of an installer, which are one window.
+at_pages() {
+    local page
+    for page in "${@:2}"; do
+        front=
+        at "$1" "$page" Return
+    done
+}
+
 rm -rf "$WINEPREFIX" pictures
 mkdir pictures
 wineboot -i
 mkdir "$drive/Ünïcode 星"
 wine "$(echo *-setup.exe)" &
-at "$title Setup " setup Return
-wait_for test -e "$data/Roaming/Microsoft/Windows/Start Menu/Programs/$title.lnk"
-front=
-at "$title Setup " setup-done Return
+at_pages "$title Setup" welcome folder menu
+wait_for test -e "$data/Roaming/Microsoft/Windows/Start Menu/Programs/$title/$title.lnk"
+at_pages "$title Setup" installed
 at "$title" empty =mei1
 at "$title Message" refused-key Return
 at "$title" - "= ling" Tab =30 Tab =February Tab =1988 Tab =9 Tab =30 Return
@@ -86,10 +94,9 @@ at "$chart" - alt+e
 wait_for_end
 
 wine "$program/Uninstall.exe" &
-at "$title Uninstall " uninstall Return
+at_pages "$title Uninstall" uninstall
 wait_for is_gone test -e "$program"
-front=
-at "$title Uninstall " uninstalled Return
+at_pages "$title Uninstall" uninstalled
 wineserver -w
 is_gone grep -iE 'palace|\.plf|QtProject' "$WINEPREFIX"/{user,system}.reg
 [ -z "$(find "$drive" -ipath '*palace*')" ]
