@@ -41,15 +41,16 @@ set(CPACK_NSIS_EXTRA_INSTALL_COMMANDS [[
     !insertmacro Class PalaceLantern.Chart\shell\open\command '"$INSTDIR\palace-lantern.exe" "%1"'
     !insertmacro Class .plf PalaceLantern.Chart
     System::Call 'shell32::SHChangeNotify(i 0x08000000, i 0, p 0, p 0)']])
-# With the lock's folder, and with what Qt's file dialogs remember.
+# With the lock's folder, and what Qt's file dialogs remember. START_MENU was sought among an administrator's values.
 string(CONCAT CPACK_NSIS_EXTRA_UNINSTALL_COMMANDS "${CPACK_NSIS_EXTRA_PREINSTALL_COMMANDS}\n" [[
+    ReadRegStr $START_MENU HKCU Software\Microsoft\Windows\CurrentVersion\Uninstall\PalaceLantern StartMenu
     DeleteRegKey HKCU Software\Classes\PalaceLantern.Chart
     DeleteRegKey HKCR PalaceLantern.Chart
     ReadRegStr $0 HKCR .plf ""
     StrCmp $0 PalaceLantern.Chart 0 +3 ; unless another program has it by now
     DeleteRegKey HKCU Software\Classes\.plf
     DeleteRegKey HKCR .plf
-    RMDir "$LOCALAPPDATA\palace-lantern"
+    RMDir /r "$LOCALAPPDATA\palace-lantern"
     DeleteRegKey HKCU Software\QtProject\OrganizationDefaults\FileDialog
     DeleteRegKey /ifempty HKCU Software\QtProject\OrganizationDefaults
     DeleteRegKey /ifempty HKCU Software\QtProject]])
