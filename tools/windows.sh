@@ -11,14 +11,14 @@ export HOME=$folder/home WINEPREFIX=$folder/wine WINEPATH=$libraries/bin LC_ALL=
     WINEDEBUG=-all WINEDLLOVERRIDES="mscoree,mshtml,winemenubuilder.exe="
 
 # Lists of our own name the sources, which lie where the machine's packages do; the machine's lists are left alone.
-fetch_sources() {
+fetch_sources() (
     local own=(-o Dir::Etc::sourcelist="$folder/sources.list" -o Dir::Etc::sourceparts=- -o Dir::Cache="$folder/lists"
         -o Dir::State::lists="$folder/lists" -o APT::Sandbox::User="$(id -un)")
     as_root apt-get -q update && mkdir -p "$folder/lists/partial" && cd "$folder" &&
         apt-get indextargets --format 'deb-src $(REPO_URI) $(RELEASE) $(COMPONENT)' 'Created-By: Packages' \
             'Origin: Debian' | sort -u >sources.list &&
         apt-get -q "${own[@]}" update && apt-get -q "${own[@]}" source qt6-base libjpeg-turbo
-}
+)
 
 cross_build() {
     cmake -S "$2" -B "$folder/$1" -G Ninja -DCMAKE_BUILD_TYPE=Release -DCMAKE_INSTALL_PREFIX="$libraries" \
