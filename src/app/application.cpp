@@ -40,11 +40,8 @@ void Application::openAndCastChart(const QString& path) {
 bool Application::openChart(const QString& path) {
     const auto bytes =
         hasChartFileEnding(path.toStdString()) ? readFile(path, longestChartFile) : std::nullopt;
-    if (bytes) {
-        input_->fillIn(chartFileValues(*bytes));
-    } else {
-        showMessage(input_.get(), QMessageBox::Critical, QStringLiteral("Please Check The File."));
-    }
+    if (bytes) input_->fillIn(chartFileValues(*bytes));
+    if (!bytes) showMessage(input_.get(), QMessageBox::Critical, QStringLiteral("Please Check The File."));
     return bytes.has_value();
 }
 

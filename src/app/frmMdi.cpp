@@ -116,8 +116,8 @@ void frmMdi::changeEvent(QEvent* event) {
 
 void frmMdi::cmdMdiExit_Click() { close(); }
 
-// The rectangle in which strip and chart are placed, in the frame's coordinates: the screen's while the frame
-// fills it, else the frame's own. Where positions are not known, the frame counts as centred on the screen.
+// Strip and chart are placed between its left and right edges, in the frame's coordinates: the screen's while
+// the frame fills it, else the frame's own. Without known positions, the frame counts as centred.
 QRect frmMdi::placementRect() const {
     const QRect whole = screen()->geometry(), frame = frameGeometry();
     const bool known = placesAreKnown();

@@ -18,9 +18,6 @@ class frmMdi : public QMainWindow {
     // Shows the frame maximised on the screen of the form that it replaces.
     void showInPlaceOf(const QWidget& form);
 
-  public slots:
-    void cmdMdiExit_Click();
-
   signals:  // from the strip or from the chart window's menu
     void savePictureRequested();
     void showAllRequested();
@@ -37,6 +34,7 @@ class frmMdi : public QMainWindow {
 
   private:
     void MDIForm_Load();
+    void cmdMdiExit_Click();
     void hostChart();
     void followPalette();
     void placeStrip();

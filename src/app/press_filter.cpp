@@ -30,7 +30,8 @@ bool PressFilter::discards(QObject* receiver, QEvent* event) {
 }
 
 // Qt 6.8 still: isAutoRepeat() is often false under X11, which sends a release and a press at the same time,
-// and true on Windows for a key whose release went to a window that was closing. Only the last key repeats.
+// and true on Windows for a key whose release went to a window that was closing. So a key counts as repeated
+// only if it was also the last one pressed.
 bool PressFilter::isRepeated(const QKeyEvent& key) {
     constexpr quint64 atOnce = 2;  // milliseconds
     const int code = key.key();
@@ -44,13 +45,14 @@ bool PressFilter::isRepeated(const QKeyEvent& key) {
     return (enter || space) && repeated && pressedLast;
 }
 
-// Where positions are not known, only the time counts, except for a popup, which is placed by its parent.
+// Without known positions only the time counts, except from a popup to its parent, whose positions relate.
 bool PressFilter::isSecondClick(const QMouseEvent& click, QWindow* window) {
-    const QWindow* before = std::exchange(clickedWindow_, window);
+    const QWindow* before = std::exchange(clickedWindow_, window);  // null where it has been closed
     const quint64 elapsed = click.timestamp() - std::exchange(clicked_, click.timestamp());
     const QPointF moved = click.globalPosition() - std::exchange(clickedPlace_, click.globalPosition());
-    if (before == nullptr || before == window || window->type() == Qt::Popup) return false;
-    const bool fromPopup = before->type() == Qt::Popup && before->transientParent() == window;
+    if (before == window || window->type() == Qt::Popup) return false;
+    const bool fromPopup =
+        before != nullptr && before->type() == Qt::Popup && before->transientParent() == window;
     const bool placesCount = placesAreKnown() || fromPopup;
     const bool near = !placesCount || moved.manhattanLength() <= QApplication::startDragDistance();
     return near && elapsed < static_cast<quint64>(QApplication::doubleClickInterval());

@@ -13,7 +13,7 @@ class PressFilter {
   public:
     // Whether the event must not be delivered: the auto-repeat of Enter, and of Space outside text boxes; and
     // the second click of a double click whose first went to another window, unless a popup gets the second.
-    // To be called before any event filter: Qt's own for assistive technology removes the timestamps of keys.
+    // Must run before any event filter: that of Qt's accessibility bridge sends keys on without timestamps.
     bool discards(QObject* receiver, QEvent* event);
 
   private:

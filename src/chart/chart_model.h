@@ -134,7 +134,8 @@ static_assert(starsAreInOrder());
 
 constexpr const CellField& fieldOf(Star star) { return starTable[static_cast<std::size_t>(star)].field; }
 
-// Each field of a cell once: the three without stars, then those of starTable, where a field's rows adjoin.
+// Each field of a cell once: the three without stars, then those of starTable, in which rows of one field are
+// adjacent.
 inline constexpr auto cellFields = [] {
     std::array<CellField, 35> fields{{{"lblPalace", &ChartCell::lblPalace, nullptr, ""},
                                       {"lblPalaceSteam", &ChartCell::lblPalaceSteam, nullptr, ""},

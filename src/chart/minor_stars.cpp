@@ -73,14 +73,12 @@ void placeMonthStars(ChartModel& chart) {
     placeCounted(chart, monthStars, chart.lunarMonth);
     if (chart.lunarMonth == 0) return;
     const auto& cells = monthFlagCells[static_cast<std::size_t>(chart.lunarMonth - 1)];
-    for (std::size_t i = 0; i < monthFlagStars.size(); ++i) {
+    for (std::size_t i = 0; i < monthFlagStars.size(); ++i)
         chart.place(monthFlagStars[i], CellIndex{cells[i]});
-    }
 }
 
 void placeDayStars(ChartModel& chart, int day) {
     const int remainder = day % 12;
-    for (const auto& [star, from, direction, offset] : dayStars) {
+    for (const auto& [star, from, direction, offset] : dayStars)
         chart.place(star, chart.cellOf(from) + (direction * remainder + offset));
-    }
 }

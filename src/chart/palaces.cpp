@@ -29,9 +29,8 @@ constexpr std::array<std::array<Caption, 5>, 6> elements{{
 
 void placeLifePalace(ChartModel& chart) {
     chart.lifePalace = CellIndex{chart.lunarMonth - chart.doubleHour};
-    for (int k = 0; k < cellCount; ++k) {
+    for (int k = 0; k < cellCount; ++k)
         chart.cell(chart.lifePalace - k).lblPalace = palaceNames[static_cast<std::size_t>(k)];
-    }
     chart.lblLifePalaceat = branchNames[chart.lifePalace.index()];
 }
 

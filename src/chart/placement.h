@@ -12,8 +12,8 @@ void placePalaceStems(ChartModel& chart);
 void placeElement(ChartModel& chart);
 
 // zi_wei.cpp: by the element and the list position (0..30) of the solar day. Zi Wei goes into the cell whose
-// label shows only the branch that was found. On a 31st the branch is that of the previous chart; where the
-// label already shows "Zi Wei" above the branch, the cell is.
+// label shows only the branch that was found. On a 31st the branch is that of the previous chart. Where the
+// label already shows "Zi Wei" above the branch, the cell of the previous chart stays.
 void placeZiWei(ChartModel& chart, int dayPosition);
 
 // major_stars.cpp: the rest of the Zi Wei group, counted backwards from Zi Wei, and the Tian Fu group,

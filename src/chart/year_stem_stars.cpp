@@ -43,13 +43,11 @@ constexpr std::array<std::array<Star, transformations.size()>, 10> transformedSt
 
 void placeYearStemStars(ChartModel& chart) {
     const auto digit = static_cast<std::size_t>(chart.yearDigit);
-    for (std::size_t i = 0; i < stemStars.size(); ++i) {
+    for (std::size_t i = 0; i < stemStars.size(); ++i)
         chart.place(stemStars[i], CellIndex{stemCells[digit][i]});
-    }
     // Intentional: Qing Yang stands before Lu Cun and Tuo Luo after it, the reverse of the tradition.
     chart.place(Star::QingYang, chart.cellOf(Star::LuCun) - 1);
     chart.place(Star::TuoLuo, chart.cellOf(Star::LuCun) + 1);
-    for (std::size_t i = 0; i < transformations.size(); ++i) {
+    for (std::size_t i = 0; i < transformations.size(); ++i)
         chart.place(transformations[i], chart.cellOf(transformedStars[digit][i]));
-    }
 }

@@ -48,9 +48,8 @@ constexpr std::array<std::array<Caption, elementNames.size()>, 30> ziWeiBranches
 void placeZiWei(ChartModel& chart, int dayPosition) {
     const auto element = std::ranges::find(elementNames, chart.lblElement) - elementNames.begin();
     const auto day = static_cast<std::size_t>(dayPosition);
-    if (day < ziWeiBranches.size()) {
+    if (day < ziWeiBranches.size())
         chart.ziWeiBranch = ziWeiBranches[day].at(static_cast<std::size_t>(element));
-    }
     for (const CellIndex cell : allCells) {
         if (chart.cell(cell).lblEarthlyBranches == chart.ziWeiBranch) chart.place(Star::ZiWei, cell);
     }

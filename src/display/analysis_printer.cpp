@@ -16,7 +16,7 @@
 #include <memory>
 
 #include "display/styled_text.h"
-#include "style/controls.h"
+#include "style/text.h"
 
 namespace {
 
@@ -156,6 +156,7 @@ void printAnalysis(const std::vector<TextRun>& runs, int start, int end, QWidget
     hidePageNumbers(dialog);
     proposeFile(dialog, printer.docName());
     if (!askToPrint(dialog, printer)) return;
+    if (dialog.printRange() == QAbstractPrintDialog::AllPages) end = start;  // chosen in a native dialog
     replaceDefaultMargins(printer);
     printOnPaper(*printedPart(runs, start, end), printer);
 }

@@ -9,10 +9,7 @@
 class QTextEdit;
 class QVBoxLayout;
 
-enum class AnalysisKind {
-    onePalace,
-    allPalaces,  // can be saved and printed
-};
+enum class AnalysisKind { onePalace, allPalaces };  // that of all can be saved and printed
 
 // What a person can change of the view; it is kept from one analysis to the next.
 struct AnalysisView {

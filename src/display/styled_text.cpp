@@ -2,8 +2,8 @@
 
 #include <QTextCursor>
 
-#include "style/controls.h"
 #include "style/look.h"
+#include "style/text.h"
 
 namespace {
 

@@ -18,7 +18,7 @@ struct Request {
     QFileDialog::AcceptMode mode;
     const char* title;
     const char* filter;
-    std::string_view extension;  // added to a name without a file (to open) or without a dot (to save)
+    std::string_view extension;  // added to a name that no file has (to open) or without a dot (to save)
     bool replaces = false;       // an existing file, after a question
 };
 
@@ -39,12 +39,12 @@ QString obstacleTo(const Request& request, const QFileInfo& file) {
     const QFileInfo folder{file.absolutePath()};
     if (!folder.isDir()) return QStringLiteral("The folder does not exist.");
     if (file.isDir()) return QStringLiteral("This is the name of a folder.");
-    const auto length = static_cast<std::size_t>(file.fileName().toUtf8().size());
-    if (length > longestFileName || file.absoluteFilePath().size() >= PATH_MAX)
+    if (lengthInFiles(file.fileName()) > qsizetype{longestFileName} ||
+        lengthInFiles(file.absoluteFilePath()) >= PATH_MAX)
         return QStringLiteral("The name is too long.");
     if (hasForbiddenCharacter(file.fileName()))
         return QStringLiteral("A file name can't contain any of these characters:  < > : \" | ? *");
-    // By trying, because the permissions that QFileInfo knows are not all on Windows.
+    // Tested by creating a file, because on Windows QFileInfo does not know all permissions.
     return QTemporaryFile{folder.filePath() + QStringLiteral("/XXXXXX")}.open()
                ? QString{}
                : QStringLiteral("Nothing can be saved in this folder.");

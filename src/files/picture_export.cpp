@@ -9,6 +9,7 @@
 #include <QTemporaryFile>
 #include <memory>
 
+#include "files/bmp2jpeg/bmp2jpeg.h"
 #include "files/picture_name.h"
 #include "style/message.h"
 
@@ -45,8 +46,8 @@ std::unique_ptr<QFile> newBitmap(const PictureName& picture) {
 }
 
 void convert(const QString& converter, const QString& bitmapPath, const std::string& picturePath) {
-    using BmpToJpeg = int (*)(const char*, const char*, int);
-    const auto bmpToJpeg = reinterpret_cast<BmpToJpeg>(QLibrary::resolve(converter, "BmpToJpeg"));
+    const auto resolved = QLibrary::resolve(converter, "BmpToJpeg");
+    const auto bmpToJpeg = reinterpret_cast<decltype(&BmpToJpeg)>(resolved);
     if (bmpToJpeg != nullptr) bmpToJpeg(encoded(bitmapPath).c_str(), picturePath.c_str(), quality);
 }
 

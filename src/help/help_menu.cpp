@@ -5,6 +5,7 @@
 #include <QDir>
 #include <QElapsedTimer>
 #include <QProcess>
+#include <QStandardPaths>
 #include <QUrl>
 #include <array>
 
@@ -34,7 +35,7 @@ QUrl addressOf(WebPage page) {
 // xdg-open fails within seconds if it finds no browser. A process that ends later was the browser itself.
 constexpr int patience = 10'000;  // milliseconds
 
-// The parent of the message is a modal dialog if one was opened in the meantime, which would block it.
+// A modal dialog that has opened in the meantime becomes the parent; otherwise it would block the message.
 void tellAddress(const QUrl& address, QWidget* asker) {
     QWidget* dialog = QApplication::activeModalWidget();
     showMessage(dialog != nullptr ? dialog : asker, QMessageBox::Information,
@@ -66,7 +67,9 @@ void openPage(WebPage page, QWidget* asker) {
     QObject::connect(opener, &QProcess::finished, opener, &QObject::deleteLater);
     opener->setStandardOutputFile(QProcess::nullDevice());
     opener->setStandardErrorFile(QProcess::nullDevice());
-    opener->start(QStringLiteral("xdg-open"), {address.toString(QUrl::FullyEncoded)});
+    // By its path: on Windows, a bare name would be looked for in the current folder, too.
+    const QString command = QStandardPaths::findExecutable(QStringLiteral("xdg-open"));
+    opener->start(command, {address.toString(QUrl::FullyEncoded)});
 }
 
 QMenu* newHelpMenu(QWidget* form) {

@@ -24,7 +24,7 @@
 
 namespace {
 
-// Until Qt 6.8: a hidden QListView sends accessibility focus events, such as when a key changes the entry.
+// Until Qt 6.8: a hidden QListView sends an accessibility focus event when a key changes the list's entry.
 class EntryView : public QListView {
   protected:
     void currentChanged(const QModelIndex& current, const QModelIndex& previous) override {
@@ -266,7 +266,7 @@ void frmMain::dropEvent(QDropEvent* event) {
 }
 
 // A list handles the wheel only while it has the focus. Qt 6.8 still: where the desktop lets Enter press
-// buttons, QComboBox and QGroupBox handle it, too, and it would not reach the default button.
+// buttons, QComboBox and QGroupBox handle it, so that it would not reach the default button.
 bool frmMain::eventFilter(QObject* watched, QEvent* event) {
     auto* list = qobject_cast<QComboBox*>(watched);
     const QEvent::Type type = event->type();
@@ -311,7 +311,7 @@ void frmMain::setVisible(bool visible) {
 
 void frmMain::fitToScreen() {
     const QSize room = screen()->availableSize() - QSize{16, 40};
-    // Room beside the text of the longest button, and for window sizes that are rounded to device pixels.
+    // Width for the longest button's text, and height for sizes that are rounded to device pixels.
     constexpr QSize spare{24, 2};
     const QSize content = scroll_->widget()->sizeHint();
     scroll_->widget()->setMaximumWidth(content.width() * 5 / 4);

@@ -32,10 +32,7 @@ class frmMain : public QDialog {
     // Clears the name and selects the first entry of every list.
     void clearEntry();
 
-  public slots:
     void cmdGenerateChart_Click();
-    void cmdOpen_Click();
-    void cmExit_Click();
 
   signals:
     void entered(const BirthEntry& entry);  // which has passed the check
@@ -54,6 +51,8 @@ class frmMain : public QDialog {
 
   private:
     void Form_Load();
+    void cmdOpen_Click();
+    void cmExit_Click();
     void considerDrop(QDropEvent* event);
     void fitToScreen();
     void followFont();

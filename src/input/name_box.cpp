@@ -64,7 +64,7 @@ void NameBox::filterSetText(const QString& text) {
     setName(refused ? before : text.first(head) + entered + text.last(tail));
 }
 
-// The base class gets commands without their text, which it would insert for some of them.
+// Commands are passed on without their text, because QLineEdit would insert that of some.
 void NameBox::keyPressEvent(QKeyEvent* event) {
     const QString text = event->text();
     // The text of Enter, Backspace and similar keys is a control character.

@@ -60,7 +60,8 @@ QPushButton* newButton(const char* name, const char* caption, Form* form, Handle
     return button;
 }
 
-// Adds an entry that calls the form's handler; queued, so that the accessibility bus waits for no dialog.
+// Adds an entry that calls the form's handler; queued, so that a call over the accessibility
+// bus returns before the dialog that it opens is closed.
 template <class Form, class Handler>
 QAction* addEntry(QMenu* menu, const char* name, const char* caption, Form* form, Handler handler,
                   const QKeySequence& shortcut = {}) {

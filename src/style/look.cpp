@@ -105,9 +105,8 @@ QString productName() { return QStringLiteral("Palace Lantern"); }
 
 QIcon productIcon(std::initializer_list<int> sizes) {
     QIcon icon;
-    for (const int size : sizes) {
+    for (const int size : sizes)
         icon.addFile(QStringLiteral(":/icons/palace-lantern-%1.png").arg(size), QSize{size, size});
-    }
     return icon;
 }
 

@@ -13,8 +13,12 @@ inline bool placesAreKnown() {
 
 inline bool isWindows() { return QDir::separator() == QLatin1Char('\\'); }
 
+// The length of a file name or path in the unit of the system's limits: UTF-16 on Windows, else bytes.
+inline qsizetype lengthInFiles(const QString& name) {
+    return isWindows() ? name.size() : QFile::encodeName(name).size();
+}
+
 // Whether the file name has a character that Windows forbids; false on other systems.
 inline bool hasForbiddenCharacter(const QString& fileName) {
-    static const QRegularExpression forbidden{QStringLiteral("[<>:\"|?*]")};
-    return isWindows() && fileName.contains(forbidden);
+    return isWindows() && fileName.contains(QRegularExpression{QStringLiteral("[<>:\"|?*]")});
 }
