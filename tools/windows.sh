@@ -27,14 +27,13 @@ cross_build() {
 }
 
 build_libraries() {
-    local without="opengl dynamicgl vulkan sql network dbus xml concurrent freetype gif ico tabletevent
-        accessibility_atspi_bridge graphicsview graphicseffect undocommand wizard splashscreen
-        dockwidget columnview datawidgetmapper fontdialog colordialog systemtrayicon"
     quietly "Fetching the libraries' sources" fetch_sources
     quietly "Building libjpeg-turbo" cross_build jpeg "$folder"/libjpeg-turbo-*/ -DENABLE_SHARED=OFF -DWITH_SIMD=OFF
     quietly "Building GoogleTest" cross_build gtest /usr/src/googletest
     quietly "Building Qt, which takes long but is done once" cross_build qt "$folder"/qt6-base-*/ -DINPUT_opengl=no \
-        $(printf ' -DFEATURE_%s=OFF' $without)
+        $(printf ' -DFEATURE_%s=OFF' opengl dynamicgl vulkan sql network dbus xml concurrent freetype gif ico \
+            tabletevent accessibility_atspi_bridge graphicsview graphicseffect undocommand wizard splashscreen \
+            dockwidget columnview datawidgetmapper fontdialog colordialog systemtrayicon)
     install -s --strip-program=x86_64-w64-mingw32-strip -t "$libraries/bin" \
         $(printf '%s.dll\n' libstdc++-6 libgcc_s_seh-1 libssp-0 libwinpthread-1 |
             xargs -I LIBRARY x86_64-w64-mingw32-g++-posix -print-file-name=LIBRARY) # the compiler's own

@@ -7,6 +7,7 @@ set(CPACK_PACKAGE_INSTALL_DIRECTORY "Palace Lantern")
 set(CPACK_PACKAGE_INSTALL_REGISTRY_KEY PalaceLantern)
 set(CPACK_STRIP_FILES ON)
 set(CPACK_VERBATIM_VARIABLES ON)
+# CPack puts a "-" before it: -X"Target amd64-unicode".
 set(CPACK_NSIS_EXECUTABLE_PRE_ARGUMENTS "XTarget\\ amd64-unicode")
 set(CPACK_NSIS_MUI_ICON ${PROJECT_BINARY_DIR}/palace-lantern.ico)
 set(CPACK_NSIS_MUI_UNIICON ${PROJECT_BINARY_DIR}/palace-lantern.ico)
@@ -19,6 +20,7 @@ set(CPACK_NSIS_IGNORE_LICENSE_PAGE ON)
 set(CPACK_NSIS_DEFINES [[
     RequestExecutionLevel user
     InstallDir "$LOCALAPPDATA\Programs\Palace Lantern"
+    InstallDirRegKey HKCU "Software\The Palace Lantern founders\PalaceLantern" ""
     !macro Class KEY VALUE
         WriteRegStr HKCU "Software\Classes\${KEY}" "" '${VALUE}'
         WriteRegStr HKCR "${KEY}" "" '${VALUE}'
@@ -41,19 +43,19 @@ set(CPACK_NSIS_EXTRA_INSTALL_COMMANDS [[
     !insertmacro Class PalaceLantern.Chart\shell\open\command '"$INSTDIR\palace-lantern.exe" "%1"'
     !insertmacro Class .plf PalaceLantern.Chart
     System::Call 'shell32::SHChangeNotify(i 0x08000000, i 0, p 0, p 0)']])
-# With the lock's folder, and what Qt's file dialogs remember. START_MENU was sought among an administrator's values.
+# The template has looked START_MENU up in HKLM if this person is an administrator. HKCR shows a key of HKCU as long as
+# there is one, and else that of HKLM, which may be another program's: so it goes first. The folder is the lock's.
 string(CONCAT CPACK_NSIS_EXTRA_UNINSTALL_COMMANDS "${CPACK_NSIS_EXTRA_PREINSTALL_COMMANDS}\n" [[
     ReadRegStr $START_MENU HKCU Software\Microsoft\Windows\CurrentVersion\Uninstall\PalaceLantern StartMenu
-    DeleteRegKey HKCU Software\Classes\PalaceLantern.Chart
-    DeleteRegKey HKCR PalaceLantern.Chart
     ReadRegStr $0 HKCR .plf ""
-    StrCmp $0 PalaceLantern.Chart 0 +3 ; unless another program has it by now
-    DeleteRegKey HKCU Software\Classes\.plf
-    DeleteRegKey HKCR .plf
-    RMDir /r "$LOCALAPPDATA\palace-lantern"
-    DeleteRegKey HKCU Software\QtProject\OrganizationDefaults\FileDialog
-    DeleteRegKey /ifempty HKCU Software\QtProject\OrganizationDefaults
-    DeleteRegKey /ifempty HKCU Software\QtProject]])
+    StrCmp $0 PalaceLantern.Chart 0 +5 ; unless another program has it by now
+    DeleteRegValue HKCR .plf ""
+    DeleteRegKey /ifempty HKCR .plf
+    DeleteRegValue HKCU Software\Classes\.plf ""
+    DeleteRegKey /ifempty HKCU Software\Classes\.plf
+    DeleteRegKey HKCR PalaceLantern.Chart
+    DeleteRegKey HKCU Software\Classes\PalaceLantern.Chart
+    RMDir /r "$LOCALAPPDATA\palace-lantern"]])
 set(CPACK_NSIS_DELETE_ICONS_EXTRA [[
     Delete "$SMPROGRAMS\$MUI_TEMP\Palace Lantern.lnk"
     DeleteRegKey /ifempty HKCU "Software\The Palace Lantern founders"]])

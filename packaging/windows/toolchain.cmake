@@ -1,5 +1,4 @@
-# Debian's cross-compiler for 64-bit Windows; the libraries are those that tools/windows.sh has built with
-# it, and Qt's tools are those that run here.
+# Debian's cross-compiler for 64-bit Windows, the libraries that tools/windows.sh builds with it, and Qt's tools here.
 set(CMAKE_SYSTEM_NAME Windows)
 set(CMAKE_SYSTEM_PROCESSOR x86_64)
 set(CMAKE_C_COMPILER x86_64-w64-mingw32-gcc-posix)
