@@ -1,14 +1,12 @@
 # The Windows installer, by CPack's template, but for one person, who need not be an administrator.
 set(CPACK_GENERATOR NSIS)
-set(CPACK_PACKAGE_NAME "Palace Lantern")
 set(CPACK_PACKAGE_VENDOR "The Palace Lantern founders")
 set(CPACK_PACKAGE_FILE_NAME palace-lantern-${PROJECT_VERSION}-setup)
 set(CPACK_PACKAGE_INSTALL_DIRECTORY "Palace Lantern")
 set(CPACK_PACKAGE_INSTALL_REGISTRY_KEY PalaceLantern)
 set(CPACK_STRIP_FILES ON)
 set(CPACK_VERBATIM_VARIABLES ON)
-# CPack puts a "-" before it: -X"Target amd64-unicode".
-set(CPACK_NSIS_EXECUTABLE_PRE_ARGUMENTS "XTarget\\ amd64-unicode")
+set(CPACK_NSIS_EXECUTABLE_PRE_ARGUMENTS "XTarget\\ amd64-unicode")  # with the "-" that CPack puts before it
 set(CPACK_NSIS_MUI_ICON ${PROJECT_BINARY_DIR}/palace-lantern.ico)
 set(CPACK_NSIS_MUI_UNIICON ${PROJECT_BINARY_DIR}/palace-lantern.ico)
 set(CPACK_NSIS_INSTALLED_ICON_NAME palace-lantern.exe)
@@ -43,10 +41,9 @@ set(CPACK_NSIS_EXTRA_INSTALL_COMMANDS [[
     !insertmacro Class PalaceLantern.Chart\shell\open\command '"$INSTDIR\palace-lantern.exe" "%1"'
     !insertmacro Class .plf PalaceLantern.Chart
     System::Call 'shell32::SHChangeNotify(i 0x08000000, i 0, p 0, p 0)']])
-# The template has looked START_MENU up in HKLM if this person is an administrator. HKCR shows a key of HKCU as long as
-# there is one, and else that of HKLM, which may be another program's: so it goes first. The folder is the lock's.
+# HKCR shows a key of HKCU as long as there is one, and else that of HKLM, which may be another program's: so it goes
+# first. Also what lies in the lock's folder, and what Qt's file dialogs remember.
 string(CONCAT CPACK_NSIS_EXTRA_UNINSTALL_COMMANDS "${CPACK_NSIS_EXTRA_PREINSTALL_COMMANDS}\n" [[
-    ReadRegStr $START_MENU HKCU Software\Microsoft\Windows\CurrentVersion\Uninstall\PalaceLantern StartMenu
     ReadRegStr $0 HKCR .plf ""
     StrCmp $0 PalaceLantern.Chart 0 +5 ; unless another program has it by now
     DeleteRegValue HKCR .plf ""
@@ -55,7 +52,10 @@ string(CONCAT CPACK_NSIS_EXTRA_UNINSTALL_COMMANDS "${CPACK_NSIS_EXTRA_PREINSTALL
     DeleteRegKey /ifempty HKCU Software\Classes\.plf
     DeleteRegKey HKCR PalaceLantern.Chart
     DeleteRegKey HKCU Software\Classes\PalaceLantern.Chart
-    RMDir /r "$LOCALAPPDATA\palace-lantern"]])
+    RMDir /r "$LOCALAPPDATA\palace-lantern"
+    DeleteRegKey HKCU Software\QtProject\OrganizationDefaults\FileDialog
+    DeleteRegKey /ifempty HKCU Software\QtProject\OrganizationDefaults
+    DeleteRegKey /ifempty HKCU Software\QtProject]])
 set(CPACK_NSIS_DELETE_ICONS_EXTRA [[
     Delete "$SMPROGRAMS\$MUI_TEMP\Palace Lantern.lnk"
     DeleteRegKey /ifempty HKCU "Software\The Palace Lantern founders"]])

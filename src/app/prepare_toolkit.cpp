@@ -3,13 +3,10 @@
 #include <QEvent>
 #include <QFontDatabase>
 #include <QPixmapCache>
-#include <QSettings>
-#include <QStandardPaths>
 
 #include "display/chart_accessibility.h"
 #include "style/desktop_style.h"
 #include "style/look.h"
-#include "style/platform.h"
 
 namespace {
 
@@ -32,11 +29,6 @@ void prepareToolkit() {
     QApplication::setApplicationVersion(QStringLiteral(PALACE_LANTERN_VERSION));
     QApplication::setDesktopFileName(QStringLiteral("palace-lantern"));
     QApplication::setQuitOnLastWindowClosed(false);
-    if (isWindows()) {  // not in the registry, where other programs share what file dialogs remember
-        QSettings::setDefaultFormat(QSettings::IniFormat);
-        QSettings::setPath(QSettings::IniFormat, QSettings::UserScope,
-                           QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation));
-    }
     QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
     // Otherwise the style would cache a new pixmap of the scroll bar for every length of text.
     QPixmapCache::setCacheLimit(0);
