@@ -6,6 +6,7 @@
 #include <QWidget>
 #include <utility>
 
+#include "style/controls.h"
 #include "style/platform.h"
 
 bool PressFilter::discards(QObject* receiver, QEvent* event) {
@@ -37,12 +38,11 @@ bool PressFilter::isRepeated(const QKeyEvent& key) {
     const int code = key.key();
     const QWidget* focus = QApplication::focusWidget();
     const bool writes = focus != nullptr && focus->testAttribute(Qt::WA_InputMethodEnabled);
-    const bool enter = code == Qt::Key_Return || code == Qt::Key_Enter;
     const bool space = code == Qt::Key_Space && !writes;
     const bool follows = code == releasedKey_ && key.timestamp() - released_ <= atOnce;
     const bool repeated = key.isAutoRepeat() || (key.timestamp() != 0 && follows);
     const bool pressedLast = std::exchange(pressedKey_, code) == code;
-    return (enter || space) && repeated && pressedLast;
+    return (isEnter(code) || space) && repeated && pressedLast;
 }
 
 // Without known positions only the time counts, except from a popup to its parent, whose positions relate.

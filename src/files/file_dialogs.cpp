@@ -22,11 +22,10 @@ struct Request {
     bool replaces = false;       // an existing file, after a question
 };
 
-constexpr Request chartToOpen{QFileDialog::AcceptOpen, "Select the source file", "Palace Lantern (*.plf)",
-                              ".plf"};
+constexpr auto chartFiles = "Palace Lantern (*.plf)";
+constexpr Request chartToOpen{QFileDialog::AcceptOpen, "Select the source file", chartFiles, ".plf"};
 // Intentional: the default extension is "txt".
-constexpr Request chartToSave{QFileDialog::AcceptSave, "Palace Lantern", "Palace Lantern (*.plf)", ".txt",
-                              true};
+constexpr Request chartToSave{QFileDialog::AcceptSave, "Palace Lantern", chartFiles, ".txt", true};
 constexpr Request pictureToSave{QFileDialog::AcceptSave, "Save as JPG", "JPEG Image (*.jpg)",
                                 pictureExtension};
 

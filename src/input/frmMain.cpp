@@ -45,9 +45,7 @@ void fillNumbers(QComboBox* list, int first, int count) {
 }
 
 bool isEnterPress(const QEvent& event) {
-    if (event.type() != QEvent::KeyPress) return false;
-    const int key = static_cast<const QKeyEvent&>(event).key();
-    return key == Qt::Key_Return || key == Qt::Key_Enter;
+    return event.type() == QEvent::KeyPress && isEnter(static_cast<const QKeyEvent&>(event).key());
 }
 
 // A label that is also the accessible name of its control.

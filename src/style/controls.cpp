@@ -17,8 +17,7 @@ bool CommandButton::event(QEvent* event) {
 }
 
 void PressArea::keyPressEvent(QKeyEvent* event) {
-    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    enter ? click() : QAbstractButton::keyPressEvent(event);
+    isEnter(event->key()) ? click() : QAbstractButton::keyPressEvent(event);
 }
 
 QMenuBar* newMenuBar(QWidget* window) {

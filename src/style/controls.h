@@ -15,6 +15,9 @@ Control* named(Control* control, std::string_view name) {
     return control;
 }
 
+// Whether the key is Enter, be it of the number pad.
+constexpr bool isEnter(int key) { return key == Qt::Key_Return || key == Qt::Key_Enter; }
+
 // Whether the form is visible and no other modal dialog is open. connectControl() checks it for every
 // handler, because input can arrive when the form is already hidden or has opened a dialog: an access key,
 // the second click of a double click, a press over the accessibility bus.
