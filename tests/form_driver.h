@@ -54,6 +54,16 @@ inline void press(const QString& keys, QWidget* control = nullptr) {
     }
 }
 
+// Presses keys one after another and returns the names of the controls that then have the focus.
+inline QString walk(const QString& keys) {
+    QStringList names;
+    for (const QString& key : keys.split(' ')) {
+        press(key);
+        names += present(QApplication::focusWidget(), "focus")->objectName();
+    }
+    return names.join(" ");
+}
+
 inline QString textOf(const QString& label) { return find<QLabel>(label)->text(); }
 
 // Chooses an entry of a window's menus, which acts through the event loop.
@@ -63,12 +73,13 @@ inline void choose(const QString& window, const QString& entry) {
 }
 
 // Runs `action` and, while it waits for modal windows, `act` on each that comes to the front: it may close
-// the window, or leave that to the next time.
-inline void withModals(const Action& action, const std::function<void(QWidget&)>& act) {
+// the window, or leave that to the next time. Returns how often, after so many times at least.
+inline int withModals(const Action& action, const std::function<void(QWidget&)>& act, int least = 0) {
     static int watching = 0;
     const int level = ++watching;
     const auto watched = qScopeGuard([] { --watching; });
     QWidget* actedOn = QApplication::activeModalWidget();
+    int count = 0;
     std::exception_ptr failure;
     QObject watch;
     Action look = [&] {
@@ -79,6 +90,7 @@ inline void withModals(const Action& action, const std::function<void(QWidget&)>
         window->activateWindow();  // which some window managers leave out where windows change quickly
         await([=] { return window->isActiveWindow(); });
         try {
+            if (++count > 50) throw std::runtime_error{"This dialog stays open."};
             act(*window);
         } catch (const std::exception&) {  // the toolkit lets none through
             failure = std::current_exception();
@@ -89,23 +101,15 @@ inline void withModals(const Action& action, const std::function<void(QWidget&)>
     QTimer::singleShot(10, &watch, look);
     action();
     QCoreApplication::processEvents();
+    (void)QTest::qWaitFor([&] { return count >= least; });
     if (failure) std::rethrow_exception(failure);
+    return count;
 }
 
 // Expects that `action` brings up one modal window, soon or late, and runs `act` on it, which closes it.
 inline void withOne(const Action& action, const std::function<void(QWidget&)>& act = &QWidget::close,
                     const std::source_location& where = std::source_location::current()) {
-    int count = 0;
-    const auto actAndWait = [&] {
-        action();
-        (void)QTest::qWaitFor([&] { return count > 0; });
-    };
-    const auto actAndCount = [&](QWidget& window) {
-        ++count;
-        act(window);
-    };
-    withModals(actAndWait, actAndCount);
-    EXPECT_EQ(count, 1) << where.file_name() << ":" << where.line();
+    EXPECT_EQ(withModals(action, act, 1), 1) << where.file_name() << ":" << where.line();
 }
 
 // The messages that `action` brings up, as "icon|text" under the usual title, each closed by Escape, a
@@ -136,8 +140,7 @@ inline QStringList messagesOf(const Action& action, const std::vector<std::strin
 }
 
 // A folder of a test's own, gone with all that is in it at the end. Its name has a dot, as a person's may.
-class TemporaryFolder : public testing::Test {
-  protected:
+struct TemporaryFolder : testing::Test {
     std::string in(const std::string& name) const { return folder_ + "/" + name; }
     void write(const std::string& name, const std::string& bytes) const {
         std::ofstream{in(name), std::ios::binary} << bytes;
@@ -169,8 +172,7 @@ inline QString entered() {
 }
 
 // The whole program, as it has just been started.
-class Program : public TemporaryFolder {
-  protected:
+struct Program : TemporaryFolder {
     Program() {
         LunarMonth = 0;
         application_.start();

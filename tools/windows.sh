@@ -23,7 +23,7 @@ run_tests() {
     build windows
     wine build/windows/tests/core_tests.exe
     tools/display.sh wine build/windows/tests/form_tests.exe --gtest_filter="-SavedFile.*:Picture.Overwrites*:\
-Analysis.OfAllPalaces*:InputForm.RefusesDevices:Start.IsOf*:ChartWindow.IsAsLarge*:InputForm.ShowsWhereTheFocus*:\
+Analysis.OfAllPalaces*:Start.IsOf*:ChartWindow.IsAsLarge*:InputForm.ShowsWhereTheFocus*:\
 TwoScreens.*:Analysis.Is*:Program.OpensThePage*"
 }
 

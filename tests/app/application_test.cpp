@@ -61,39 +61,36 @@ TEST_F(Start, TakesOneChartFile) {
     }
 }
 
-// Checks the places of the strip and of the chart window, reckoned from the right edge and the middle.
-void expectPlaces(int right, int middle) {
+// Checks the places of strip and chart in that width, of which a part is left of what is seen.
+void expectPlaces(int width, int hidden = 0) {
     const QRect banner = find("lblBanner")->geometry();
     for (const auto& [name, twipsFromRight] :
          {std::pair{"cmdSavePicture", 5495}, {"cmdShowAll", 4115}, {"cmdBack", 2715}, {"cmdMdiExit", 1335}}) {
         const QRect button = find(name)->geometry();
-        EXPECT_EQ(button.x(), qRound(right - twipsFromRight / 15.0)) << name;
-        EXPECT_TRUE(find("Picture2")->rect().contains(button)) << name << " at " << right;
-        EXPECT_FALSE(banner.intersects(button)) << name << " at " << right;
+        EXPECT_EQ(button.x(), qRound(hidden + width - twipsFromRight / 15.0)) << name;
+        EXPECT_TRUE(find("Picture2")->rect().contains(button)) << name << " at " << width;
+        EXPECT_FALSE(banner.intersects(button)) << name << " at " << width;
     }
     for (const QRect& centred : {banner, find<QMdiSubWindow>()->geometry()})
-        EXPECT_NEAR(centred.center().x(), middle, 2);
+        EXPECT_NEAR(centred.center().x(), hidden + width / 2, 2);
 }
 
 TEST_F(Program, PlacesStripAndChartByTheEdgesOfTheScreenOrOfASmallerFrame) {
     showChart();
     QWidget* frame = find("frmMdi");
-    const QSize screen = frame->screen()->size();
-    expectPlaces(screen.width(), screen.width() / 2);
+    const QSize screen = frame->screen()->size(), large = screen * 5 / 4;
+    expectPlaces(screen.width());
     frame->showNormal();
     await([&] { return frame->width() < screen.width() * 9 / 10; });
-    for (const QSize& size : {frame->size(), QSize{500, 400}, QSize{900, 500}}) {
+    for (const auto& [place, size] : {std::pair{90, frame->size()},
+                                      {60, {500, 400}},
+                                      {30, {900, 500}},
+                                      {-50, large},
+                                      {-150, large}}) {  // which fills the screen wherever it is
         frame->resize(size);
-        frame->move(frame->pos() - QPoint{60, 10});
-        await([&] { return frame->size() == size; });
-        expectPlaces(size.width(), size.width() / 2);
-    }
-    frame->resize(screen * 5 / 4);  // fills the screen wherever it is
-    for (const int left : {-50, -150}) {
-        frame->move(left, -50);
-        await([&] { return frame->x() == left && frame->width() > screen.width(); });
-        const int hidden = -frame->geometry().x();
-        expectPlaces(screen.width() + hidden, screen.width() / 2 + hidden);
+        frame->move(place, place);
+        await([&, place = place, size = size] { return frame->x() == place && frame->size() == size; });
+        size == large ? expectPlaces(screen.width(), -frame->geometry().x()) : expectPlaces(size.width());
     }
 }
 
@@ -117,13 +114,10 @@ TEST_F(Program, DoesOneThingAtATime) {
     enter("A", "1.1.1970", 0, 0);
     for (int time = 0; time < 2; ++time) find<QAbstractButton>("cmdGenerateChart")->click();
     EXPECT_EQ(textOf("lblDateOfBirth"), "January/2/1970");
-    QList<QAbstractButton*> buttons;
-    for (const char* name : {"cmdShowAll", "cmdSavePicture", "lblCover(3)", "cmdBack"})
-        buttons += find<QAbstractButton>(name);
-    const auto pressAll = [&] {
-        for (auto* button : buttons) {
-            QTimer::singleShot(0, button, &QAbstractButton::click);  // comes late, if at all
-            button->click();
+    const auto pressAll = [] {
+        for (const char* name : {"cmdShowAll", "cmdSavePicture", "lblCover(3)", "cmdBack"}) {
+            QTimer::singleShot(0, find<QAbstractButton>(name), &QAbstractButton::click);  // late, if at all
+            find<QAbstractButton>(name)->click();
         }
         choose("frmDisplay", "mnuShowAll");
     };
@@ -132,29 +126,23 @@ TEST_F(Program, DoesOneThingAtATime) {
         EXPECT_EQ(QApplication::activeModalWidget(), &dialog);
         press("Escape", &dialog);
     };
-    for (int opener = 0; opener < 3; ++opener) withOne([&] { buttons[opener]->click(); }, cancel);
-    buttons.last()->click();
+    for (const char* opener : {"cmdShowAll", "cmdSavePicture", "lblCover(3)"})
+        withOne([=] { click(opener); }, cancel);
+    click("cmdBack");
     EXPECT_EQ(messagesOf(pressAll), QStringList{});
 }
 
 TEST_F(Program, LeavesAndEntersTheChartByOneTabAndHearsItsKeysOnTheStrip) {
     showChart();
-    const auto focusAfter = [](const char* key) {
-        press(key);
-        return present(QApplication::focusWidget(), "focus")->objectName();
-    };
     find("cmdMdiExit")->setFocus();
-    EXPECT_EQ(focusAfter("Tab"), "lblCover(0)");
-    EXPECT_EQ(focusAfter("Right"), "lblCover(11)");
-    EXPECT_EQ(focusAfter("Tab"), "lblBanner");
-    EXPECT_EQ(focusAfter("Backtab"), "lblCover(11)");
-    EXPECT_EQ(focusAfter("Backtab"), "cmdMdiExit");
+    EXPECT_EQ(walk("Tab Right Tab Backtab Backtab"),
+              "lblCover(0) lblCover(11) lblBanner lblCover(11) cmdMdiExit");
     for (const auto& [key, menu] : {std::pair{Qt::Key_F, "mnuFile"}, {Qt::Key_H, "mnuHelp"}}) {
         QTest::keyClick(find("frmMdi")->windowHandle(), key, Qt::AltModifier);
         EXPECT_EQ(find<QMenu>(menu), QApplication::activePopupWidget());
         find<QMenu>(menu)->close();
     }
-    EXPECT_EQ(focusAfter("Tab"), "lblCover(11)");
+    EXPECT_EQ(walk("Tab"), "lblCover(11)");
     withOne([] { press("Return", find("cmdShowAll")); });
 }
 
@@ -205,8 +193,7 @@ TEST_F(Program, OpensThePageOfEachEntryFromEachWindow) {
         press("Return");
         EXPECT_FALSE(window.isVisible());
     };
-    for (const auto& [entry, name] :
-         {std::pair{"mnuOnline", "/help.html"}, {"mnuVisit", "/index.html"}, {"mnuUpdate", "/download.html"}})
+    for (const auto& [entry, name] : {std::pair{"mnuVisit", "/index.html"}, {"mnuUpdate", "/download.html"}})
         expectPage(name, [&] { choose("frmMain", entry); });
     expectPage("/help.html", [] { press("F1"); });
     withOne([] { choose("frmMain", "mnuAbout"); }, lookUpAndClose);

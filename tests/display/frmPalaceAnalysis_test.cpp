@@ -34,12 +34,12 @@ void sendAt(quint64 time, QWidget& window, Event event) {
     QApplication::sendEvent(window.windowHandle(), &event);
 }
 
-void sendEnterAt(quint64 time, QEvent::Type type, QWidget& window) {
-    sendAt(time, window, QKeyEvent{type, Qt::Key_Return, Qt::NoModifier, "\r"});
+void sendKeyAt(quint64 time, QEvent::Type type, QWidget& window, Qt::Key key = Qt::Key_Return,
+               bool repeated = false) {
+    sendAt(time, window, QKeyEvent{type, key, Qt::NoModifier, {}, repeated});
 }
 
-class Analysis : public Program {
-  protected:
+struct Analysis : Program {
     Analysis() { showChart(); }
 
     // Opens the analysis of all palaces and closes it when `act` is done.
@@ -89,45 +89,34 @@ class Analysis : public Program {
 
 TEST_F(Analysis, OfAPalaceIsOpenedOnceByAKeyThatIsHeldDownAndReadUntilTheNextPress) {
     const auto hold = [](QWidget& window) {
-        QKeyEvent repeat{QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, "\r", true};
-        QApplication::sendEvent(window.windowHandle(), &repeat);
+        sendKeyAt(0, QEvent::KeyPress, window, Qt::Key_Return, true);
         for (const quint64 time : {5000U, 5030U}) {  // as the X server reports it
-            sendEnterAt(time, QEvent::KeyRelease, window);
-            sendEnterAt(time + 1, QEvent::KeyPress, window);
+            sendKeyAt(time, QEvent::KeyRelease, window);
+            sendKeyAt(time + 1, QEvent::KeyPress, window);
         }
         EXPECT_TRUE(window.isVisible());
     };
-    for (const quint64 time : {5200U, 0U}) {  // late; without a time, while assistive technology listens
+    // Released late; without a time, while assistive technology listens; or without the release being seen.
+    for (const auto& [time, seen] : {std::pair{5200U, true}, {0U, true}, {0U, false}}) {
         const auto pressAndHold = [&] {
             find("lblCover(7)")->setFocus();
-            sendEnterAt(1000, QEvent::KeyPress, *find("frmMdi"));
+            sendKeyAt(1000, QEvent::KeyPress, *find("frmMdi"));
             hold(*find("frmMdi"));
         };
-        const auto holdAndRead = [&](QWidget& analysis) {
+        const auto holdAndRead = [&, time = time, seen = seen](QWidget& analysis) {
             hold(analysis);
             expectRuns(*find<QTextEdit>("RTB"), composePalaceAnalysis(chart_, 7));
             EXPECT_TRUE(find<QTextEdit>("RTB")->isReadOnly());
             EXPECT_FALSE(find("cmdSave")->isVisible() || find("cmdPrint")->isVisible());
             press("Ctrl+S Ctrl+P");
-            sendEnterAt(time, QEvent::KeyRelease, analysis);
-            sendEnterAt(time * 2, QEvent::KeyPress, analysis);
+            sendKeyAt(time, seen ? QEvent::KeyRelease : QEvent::KeyPress, analysis,
+                      seen ? Qt::Key_Return : Qt::Key_Shift);
+            sendKeyAt(time * 2, QEvent::KeyPress, analysis, Qt::Key_Return, !seen);
             EXPECT_FALSE(analysis.isVisible());
             analysis.close();
         };
         withOne(pressAndHold, holdAndRead);
     }
-}
-
-TEST_F(Analysis, OfAPalaceIsClosedByEnterThoughItsLastReleaseWasMissed) {
-    const auto pressShiftAndEnter = [](QWidget& analysis) {
-        for (const auto& [key, repeated] : {std::pair{Qt::Key_Shift, false}, {Qt::Key_Return, true}}) {
-            QKeyEvent event{QEvent::KeyPress, key, Qt::NoModifier, {}, repeated};
-            QApplication::sendEvent(analysis.windowHandle(), &event);
-        }
-        EXPECT_FALSE(analysis.isVisible());
-        analysis.close();
-    };
-    withOne([] { click("lblCover(7)"); }, pressShiftAndEnter);
 }
 
 TEST_F(Analysis, OfAPalaceIsNotClosedByTheSecondHalfOfADoubleClick) {
@@ -167,7 +156,6 @@ TEST_F(Analysis, OfAllPalacesIsSavedAndAsksBeforeItOverwrites) {
         EXPECT_EQ(save({path}), (QStringList{why, "stays"})) << path;
     };
     open([&](QTextEdit&) {
-        EXPECT_EQ(save({ours}), QStringList{});
         write("chart.txt", "old");
         expectRefusal(ours, question.arg("chart.txt"));
         EXPECT_EQ(read("chart.txt"), "old");
@@ -190,7 +178,7 @@ TEST_F(Analysis, OfAllPalacesIsSavedAndAsksBeforeItOverwrites) {
     });
 }
 
-TEST_F(Analysis, IsReadInAnySizeAndPrintedInItsOwnAsFarAsItIsSelected) {
+TEST_F(Analysis, IsReadInAnySizeAndPrintedInItsOwnWithinMarginsAsFarAsItIsSelected) {
     const QString words = "life after 50 years of age.";
     QString before;
     open([&](QTextEdit& text) {
@@ -201,7 +189,13 @@ TEST_F(Analysis, IsReadInAnySizeAndPrintedInItsOwnAsFarAsItIsSelected) {
         const auto size = [&] { return text.document()->find("Palace").charFormat().fontPointSize(); };
         const auto top = [&] { return text.cursorForPosition({0, 2}).blockNumber(); };
         print();
+        static const QRegularExpression heading{"^[^\n]*(Palace|Star) :- "};
+        for (const QString& page : pages().mid(1)) EXPECT_TRUE(page.contains(heading)) << page.toStdString();
         before = paper("-bbox");
+        static const QRegularExpression place{"xMin=\"(.*?)\" yMin=\"(.*?)\""};
+        const auto firstWord = place.match(before);
+        EXPECT_NEAR(firstWord.captured(1).toDouble(), 20 * 72 / 25.4, 3);  // millimetres in points
+        EXPECT_NEAR(firstWord.captured(2).toDouble(), 18 * 72 / 25.4, 3);
         const double own = size();
         EXPECT_EQ(text.textCursor().position() + top(), 0) << "read from its top";
         text.setTextCursor(text.document()->find(words));
@@ -234,14 +228,7 @@ TEST_F(Analysis, IsReadInAnySizeAndPrintedInItsOwnAsFarAsItIsSelected) {
     });
 }
 
-TEST_F(Analysis, IsPrintedWithinMarginsAndNothingThatBelongsTogetherIsParted) {
-    open([this](QTextEdit&) { print(); });
-    static const QRegularExpression heading{"^[^\n]*(Palace|Star) :- "};
-    for (const QString& page : pages().mid(1)) EXPECT_TRUE(page.contains(heading)) << page.toStdString();
-    static const QRegularExpression place{"xMin=\"(.*?)\" yMin=\"(.*?)\""};
-    const auto firstWord = place.match(paper("-bbox"));
-    EXPECT_NEAR(firstWord.captured(1).toDouble(), 20 * 72 / 25.4, 3);  // millimetres in points
-    EXPECT_NEAR(firstWord.captured(2).toDouble(), 18 * 72 / 25.4, 3);
+TEST_F(Analysis, IsPrintedWithNothingPartedThatBelongsTogether) {
     QString text;
     for (int i = 0; i < 400; ++i) text += "Palace\nDetails :-\n" + QString(i % 3, QChar::LineFeed);
     QPrinter printer;
