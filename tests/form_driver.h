@@ -14,6 +14,8 @@
 #include "app/application.h"
 #include "calendar/lunar_month.h"
 #include "chart_text.h"
+#include "files/chart_file.h"
+#include "style/text.h"
 #include "system_limits.h"
 
 using Action = std::function<void()>;
@@ -45,23 +47,21 @@ inline void await(const std::function<bool()>& comesTrue,
 }
 
 inline void click(const QString& name) { QTest::mouseClick(find(name), Qt::LeftButton); }
+inline Action clicking(const QString& name) {
+    return [=] { click(name); };
+}
 
-// Presses keys such as "Tab Ctrl+S" in a control or else each where the focus then is.
-inline void press(const QString& keys, QWidget* control = nullptr) {
+// Presses keys such as "Tab Ctrl+S" in a control or else each where the focus then is. Returns the names of
+// the controls that have the focus after each of them, of a cell only the index.
+inline QString press(const QString& keys, QWidget* control = nullptr) {
+    QStringList names;
     for (const QString& key : keys.split(' ')) {
         QWidget* focused = control != nullptr ? control : QApplication::focusWidget();
         QTest::keySequence(present(focused, "focus"), QKeySequence{key});
+        focused = QApplication::focusWidget();
+        names += focused != nullptr ? focused->objectName() : "none";
     }
-}
-
-// Presses keys one after another and returns the names of the controls that then have the focus.
-inline QString walk(const QString& keys) {
-    QStringList names;
-    for (const QString& key : keys.split(' ')) {
-        press(key);
-        names += present(QApplication::focusWidget(), "focus")->objectName();
-    }
-    return names.join(" ");
+    return names.join(" ").remove("lblCover");
 }
 
 inline QString textOf(const QString& label) { return find<QLabel>(label)->text(); }
@@ -80,7 +80,6 @@ inline int withModals(const Action& action, const std::function<void(QWidget&)>&
     const auto watched = qScopeGuard([] { --watching; });
     QWidget* actedOn = QApplication::activeModalWidget();
     int count = 0;
-    std::exception_ptr failure;
     QObject watch;
     Action look = [&] {
         QTimer::singleShot(10, &watch, look);  // before all else, which may wait for another window
@@ -92,8 +91,8 @@ inline int withModals(const Action& action, const std::function<void(QWidget&)>&
         try {
             if (++count > 50) throw std::runtime_error{"This dialog stays open."};
             act(*window);
-        } catch (const std::exception&) {  // the toolkit lets none through
-            failure = std::current_exception();
+        } catch (const std::exception& failure) {  // the toolkit lets none through
+            ADD_FAILURE() << failure.what();
             dynamic_cast<QDialog&>(*window).reject();
         }
         actedOn = before;
@@ -102,7 +101,6 @@ inline int withModals(const Action& action, const std::function<void(QWidget&)>&
     action();
     QCoreApplication::processEvents();
     (void)QTest::qWaitFor([&] { return count >= least; });
-    if (failure) std::rethrow_exception(failure);
     return count;
 }
 
@@ -112,31 +110,31 @@ inline void withOne(const Action& action, const std::function<void(QWidget&)>& a
     EXPECT_EQ(withModals(action, act, 1), 1) << where.file_name() << ":" << where.line();
 }
 
-// The messages that `action` brings up, as "icon|text" under the usual title, each closed by Escape, a
-// question by Enter, which means No, or by Yes. A file dialog among them is given what is to be typed, one
-// text after another, and is cancelled where it stays.
-inline QStringList messagesOf(const Action& action, const std::vector<std::string>& typed = {},
-                              bool yes = false) {
+// The messages that `action` brings up, as "icon|text" under the usual title, each closed by Escape. A file
+// dialog among them is given what is to be typed, one text after another, and is cancelled where it stays; a
+// question is answered by a key from there or by Enter, which means No.
+inline QString messagesOf(const Action& action, const std::vector<std::string>& typed = {}) {
     const QStringList icons{"none", "information", "warning", "critical", "question"};
     QStringList seen;
     auto next = typed.begin();
     withModals(action, [&](QWidget& window) {
+        QString keys = "Escape";
         if (const auto* box = qobject_cast<QMessageBox*>(&window)) {
             EXPECT_EQ(box->textFormat(), Qt::PlainText);
             const bool usual = box->windowTitle() == "Palace Lantern Message";
             seen += (usual ? "" : box->windowTitle() + "|") + icons[box->icon()] + "|" + box->text();
             if (box->icon() == QMessageBox::Question)
-                return yes ? box->button(QMessageBox::Yes)->click() : press("Return");
+                keys = next == typed.end() ? "Return" : (next++)->c_str();
         } else if (auto* name = find<QLineEdit>("fileNameEdit"); next != typed.end()) {
             await([name] { return name->hasFocus(); });
             name->setText(QString::fromStdString(*next++));
-            return press("Return");
+            keys = "Return";
         } else if (!typed.empty()) {
             seen += name->text().toStdString() == typed.back() ? "stays" : "loses the name";
         }
-        press("Escape", &window);
+        press(keys, keys == "Escape" ? &window : nullptr);
     });
-    return seen;
+    return seen.join("|");
 }
 
 // A folder of a test's own, gone with all that is in it at the end. Its name has a dot, as a person's may.
@@ -183,7 +181,7 @@ struct Program : TemporaryFolder {
     static void showChart(const std::string& date = "5.3.1985", int hour = 13, int minute = 1,
                           const QString& name = "JOHN SMITH") {
         enter(name, date, hour, minute);
-        EXPECT_EQ(messagesOf([] { choose("frmMain", "mnuGenerateChart"); }), QStringList{});
+        EXPECT_EQ(messagesOf([] { choose("frmMain", "mnuGenerateChart"); }), "");
         QWidget* frame = find("frmMdi");
         await([] { return find("cmdShowAll")->hasFocus(); });
         // Window managers take their time to maximise; those that never do are not waited for.

@@ -52,8 +52,7 @@ void compare(const ChartModel& chart, int day) {
     EXPECT_EQ(chart.cellOf(ZiWei), bureau == 5 && day == 26 ? CellIndex{Chen} : counted);
     for (const auto& [star, branches] : byMonth)
         EXPECT_EQ(chart.cellOf(star), CellIndex{branches.at(static_cast<std::size_t>(chart.lunarMonth - 1))});
-    for (const auto& [star, branches] : byYearDigit)
-        EXPECT_EQ(chart.cellOf(star), CellIndex{branches[digit]});
+    for (const auto& [star, cells] : byYearDigit) EXPECT_EQ(chart.cellOf(star), CellIndex{cells[digit]});
     for (const auto& [star, marked] : transformedByYearDigit)
         EXPECT_EQ(chart.cellOf(star), chart.cellOf(marked[digit]));
 }

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <chrono>
 #include <memory>
+#include <utility>
 
 #include "calendar/lunar_month.h"
 
@@ -18,7 +19,7 @@ TEST(Tradition, HasTheLunarMonthsOfTheUsualCalendarButForTheDepartures) {
     UErrorCode error = U_ZERO_ERROR;
     const std::unique_ptr<icu::Calendar> chinese{icu::Calendar::createInstance(
         icu::TimeZone::createTimeZone("GMT+8"), icu::Locale{"@calendar=chinese"}, error)};
-    std::string found, before;
+    std::string found, before = ", ";
     for (int i = 0; i < yearCount * monthCount * dayCount; ++i) {
         const PickedDate date{i % dayCount, i / dayCount % monthCount, i / dayCount / monthCount};
         const auto month = year{date.year()} / date.month();
@@ -28,12 +29,12 @@ TEST(Tradition, HasTheLunarMonthsOfTheUsualCalendarButForTheDepartures) {
         const int usual = chinese->get(UCAL_MONTH, error) + 1;  // in a leap month that of the month before
         LunarMonth = 0;
         FindLunarMonth(date);
-        std::string now = ": " + std::to_string(LunarMonth) + " for " + std::to_string(usual) + " to ";
-        if (LunarMonth == usual) now = ", ";
-        if (i > 0 && now != before)
+        const std::string departure =
+            ": " + std::to_string(LunarMonth) + " for " + std::to_string(usual) + " to ";
+        const std::string now = LunarMonth == usual ? ", " : departure;
+        if (now != std::exchange(before, now))
             found += std::to_string(date.day()) + '.' + std::to_string(date.month()) + '.' +
                      std::to_string(date.year()) + now;
-        before = now;
     }
     EXPECT_TRUE(U_SUCCESS(error));
     EXPECT_EQ(found,

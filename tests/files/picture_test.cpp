@@ -5,7 +5,6 @@
 
 #include "app/start_rules.h"
 #include "files/bmp2jpeg/bmp2jpeg.h"
-#include "files/chart_file.h"
 #include "files/picture_export.h"
 #include "files/saved_files.h"
 #include "form_driver.h"
@@ -43,7 +42,7 @@ double likeness(const std::string& path, const QImage& other) {
 struct Picture : Program {
     Picture() { showChart(); }
 
-    QStringList save(const std::string& name) const {
+    QString save(const std::string& name) const {
         return messagesOf([] { choose("frmDisplay", "mnuSavejpg"); }, {in(name)});
     }
 };
@@ -61,7 +60,7 @@ TEST_F(Picture, ShowsTheChartAsOnTheScreenWithoutFocusAndPointer) {
     const QImage focused = shownWithPointerAt(frame);
     EXPECT_NE(focused, plain);
     EXPECT_NE(shownWithPointerAt(cell), focused);
-    EXPECT_EQ(save("chart"), QStringList{});
+    EXPECT_EQ(save("chart"), "");
     EXPECT_GE(likeness(in("chart.jpg"), plain), 45);
     EXPECT_EQ(shownWithPointerAt(frame), focused);
     frame->showNormal();
@@ -74,7 +73,7 @@ TEST_F(Picture, ShowsTheChartAsOnTheScreenWithoutFocusAndPointer) {
             return (whole.width() > client->width()) == across &&
                    (whole.height() > client->height()) != across;
         });
-        EXPECT_EQ(save(name), QStringList{});
+        EXPECT_EQ(save(name), "");
         EXPECT_EQ(QImage(in(name).c_str()).size(), whole.size()) << name;
     }
 }
@@ -86,12 +85,12 @@ TEST_F(Picture, OverwritesNothingAndLeavesNothingBeside) {
     std::filesystem::create_symlink("/none/x", in("link.jpg"));
     const std::string longest = std::string(251, 'n') + ".jpg", counted = std::string(247, 'n') + "_001.jpg";
     for (const std::string& name : {std::string{"chart"}, {"chart.png"}, {"link"}, longest, longest})
-        EXPECT_EQ(save(name), QStringList{});
+        EXPECT_EQ(save(name), "");
     const auto beside = [] { return QDir{QCoreApplication::applicationDirPath()}.entryList(); };
     const QStringList before = beside();
-    withOne([] { click("cmdSavePicture"); });  // cancelled
+    withOne(clicking("cmdSavePicture"));  // cancelled
     EXPECT_EQ(beside(), before);
-    const QStringList closed{"critical|Nothing can be saved in this folder.", "stays"};
+    const QString closed = "critical|Nothing can be saved in this folder.|stays";
     inClosedFolder(folder_, [&] { EXPECT_EQ(save("chart.jpg"), closed); });
     savePictureAs(QPixmap{9, 9}, in("broken").c_str(), "/none.dll", nullptr);
     EXPECT_EQ(names().join(" ").toStdString(),
@@ -101,8 +100,9 @@ TEST_F(Picture, OverwritesNothingAndLeavesNothingBeside) {
     EXPECT_TRUE(read("chart.png").starts_with("\xFF\xD8"));
     for (int counter = 1001; counter <= 1999; ++counter)
         write("chart_" + std::to_string(counter).substr(1) + ".jpg", "");
-    EXPECT_EQ(save("chart"), QStringList{" UNABLE  TO  CREATE  NEW  FILEchart.jpg|critical|"
-                                         "There are too many Copies of this file  chart.jpg"});
+    EXPECT_EQ(save("chart"),
+              " UNABLE  TO  CREATE  NEW  FILEchart.jpg|critical|"
+              "There are too many Copies of this file  chart.jpg");
 }
 
 }  // namespace

@@ -4,7 +4,6 @@
 
 #include <QAccessible>
 
-#include "files/chart_file.h"
 #include "form_driver.h"
 
 namespace {
@@ -23,17 +22,16 @@ struct InputForm : Program {
         return true;
     }
 
-    // The name box's text, with the selection in brackets or the cursor as a bar.
+    // The name box's text, with brackets round the selection or at the cursor.
     void setState(const QString& marked) {
-        static const QRegularExpression marks{"[][|]"};
+        static const QRegularExpression marks{"[][]"};
         const QStringList parts = marked.split(marks);
         form_->fillIn({parts.join("").toStdString(), "", "", ""});
-        name_->setSelection(int(parts[0].size()), parts.size() == 3 ? int(parts[1].size()) : 0);
+        name_->setSelection(int(parts[0].size()), int(parts[1].size()));
     }
     QString state() const {
-        const QString text = name_->text(), selected = name_->selectedText();
-        if (selected.isEmpty()) return QString{text}.insert(name_->cursorPosition(), '|');
-        return QString{text}.replace(name_->selectionStart(), selected.size(), "[" + selected + "]");
+        const int start = name_->hasSelectedText() ? name_->selectionStart() : name_->cursorPosition();
+        return name_->text().insert(start + name_->selectedText().size(), ']').insert(start, '[');
     }
 
     frmMain* form_ = find<frmMain>();
@@ -89,32 +87,30 @@ TEST_F(InputForm, FiltersWhatComesInOnEveryWayAndLeavesWhatIsThere) {
     const Action type = typeWith({}), typeWithAltGr = typeWith(Qt::ControlModifier | Qt::AltModifier);
     const std::tuple<QString, Action, QString, QString, bool> rows[]{
         {"[AB]XCD", type, "-", "[AB]XCD", true},
-        {"AB|CD", type, "x", "ABX|CD", false},
-        {"O'NEIL|", [] { press("Backspace"); }, "", "O'NEI|", false},
-        {"A|", typeWithAltGr, "@", "A|", true},
-        {"A|", typeWithAltGr, "q", "AQ|", false},
-        {"A|", typeWith(Qt::KeypadModifier), "7", "A|", true},
+        {"AB[]CD", type, "x", "ABX[]CD", false},
+        {"O'NEIL[]", [] { press("Backspace"); }, "", "O'NEI[]", false},
+        {"A[]", typeWithAltGr, "@", "A[]", true},
+        {"A[]", typeWithAltGr, "q", "AQ[]", false},
+        {"A[]", typeWith(Qt::KeypadModifier), "7", "A[]", true},
         {"[AB]", typeWith(Qt::AltModifier), "q", "[AB]", false},
         {"[AB]", typeWith(Qt::MetaModifier), "q", "[AB]", false},
         {"[AB]", typeWith(Qt::ControlModifier), "q", "[AB]", false},
-        {"[AB]CD", paste, "a1b", "AB|CD", true},
-        {"|SMITH", paste, "JOHN\r\n", "JOHN|SMITH", false},
-        {"[AB]C", pasteByMenu, "x2", "X|C", true},
-        {"|CD", selects ? pasteByMiddle : paste, "x2", "X|CD", true},
+        {"[AB]CD", paste, "a1b", "AB[]CD", true},
+        {"[]SMITH", paste, "JOHN\r\n", "JOHN[]SMITH", false},
+        {"[AB]C", pasteByMenu, "x2", "X[]C", true},
+        {"[]CD", selects ? pasteByMiddle : paste, "x2", "X[]CD", true},
         {"[AB]C", compose, "\u00E9", "[AB]C", true},
-        {"[AB]C", compose, "x", "X|C", false},
+        {"[AB]C", compose, "x", "X[]C", false},
         {"[AB]C", compose, "", "[AB]C", false},
-        {"AB|", dropText, "x-y", "XY|AB", true},
-        {"O'N'L|", insertByBus, "m1", "O'MN'L|", true},
-        {"O'NEIL|", setByBus, "12", "O'NEIL|", true},
-    };
+        {"AB[]", dropText, "x-y", "XY[]AB", true},
+        {"O'N'L[]", insertByBus, "m1", "O'MN'L[]", true},
+        {"O'NEIL[]", setByBus, "12", "O'NEIL[]", true}};
     for (const auto& [before, way, entering, after, told] : rows) {
         text = entering;
         for (const auto mode : {QClipboard::Clipboard, QClipboard::Selection})
             QGuiApplication::clipboard()->setText(text, mode);
         setState(before);
-        EXPECT_EQ(messagesOf(way),
-                  told ? QStringList{"information|Please Enter Only Letters"} : QStringList{})
+        EXPECT_EQ(messagesOf(way), told ? "information|Please Enter Only Letters" : "")
             << before.toStdString();
         EXPECT_EQ(state(), after) << before.toStdString() << text.toStdString();
         form_->activateWindow();
@@ -148,7 +144,6 @@ TEST_F(InputForm, KeepsFocusAndHistoryThroughMenusAndMessages) {
 }
 
 TEST_F(InputForm, ShowsWhereTheFocusIsOnLightAndDarkDesktops) {
-    const QPalette desktop = QApplication::palette();
     const QColor light{239, 239, 239}, dark{53, 53, 53}, red{140, 0, 0}, yellow{255, 230, 0};
     const QColor white = Qt::white, black = Qt::black, blue{0, 60, 160};
     for (const auto& [ground, highlight, letters, expected] :
@@ -169,13 +164,12 @@ TEST_F(InputForm, ShowsWhereTheFocusIsOnLightAndDarkDesktops) {
             EXPECT_EQ(edge().name(), expected.name()) << name << " on " << ground.red();
         }
     }
-    QApplication::setPalette(desktop);
+    QApplication::setPalette({});
 }
 
 TEST_F(InputForm, CastsOnEnterAndMovesTheListsAtMidnight) {
     enter("A", "31.12.1999", 0, 0);
-    const QStringList noDate{"information|Please Enter Correct Date"};
-    EXPECT_EQ(messagesOf([this] { press("Return", name_); }), noDate);
+    EXPECT_EQ(messagesOf([this] { press("Return", name_); }), "information|Please Enter Correct Date");
     EXPECT_EQ(entered(), "A 31 December 1999 0 0");
     enter(" A", "31.12.1998", 0, 0);
     press("Return", find("cmbMinute"));
@@ -189,25 +183,25 @@ TEST_F(InputForm, OpensChartFilesAndIsLeftAsItIsByOthers) {
     write("chart.txt", bytes);
     write("chartplf", bytes.substr(0, bytes.size() - 6));  // without the year
     const QString old = "OLD 1 January 2001 13 30";
-    const std::tuple<std::vector<std::string>, QStringList, QString> files[]{
-        {{}, {}, old},
-        {{in("chart")}, {}, "O'NEIL <b> 5 March 1985 13 30"},
-        {{folder_, "chartplf"}, {}, "O'NEIL <b> 5 March 2001 13 30"},
-        {{in("chart.txt")}, {"critical|Please Check The File."}, old},
-        {{in("missing")}, {"critical|There is no such file.", "stays"}, old},
-    };
+    const std::tuple<std::vector<std::string>, QString, QString> files[]{
+        {{}, "", old},
+        {{in("chart")}, "", "O'NEIL <b> 5 March 1985 13 30"},
+        {{folder_, "chartplf"}, "", "O'NEIL <b> 5 March 2001 13 30"},
+        {{in("chart.txt")}, "critical|Please Check The File.", old},
+        {{in("missing")}, "critical|There is no such file.|stays", old}};
     for (const auto& [typed, messages, after] : files) {
         enter("OLD", "1.1.2001", 13, 30);
-        EXPECT_EQ(messagesOf([] { click("cmdOpen"); }, typed), messages) << after.toStdString();
+        EXPECT_EQ(messagesOf(clicking("cmdOpen"), typed), messages) << after.toStdString();
         EXPECT_EQ(entered(), after);
         EXPECT_EQ(form_->isHidden(), messages.isEmpty() && after != old) << after.toStdString();
         if (form_->isHidden()) click("cmdBack");
     }
-    const auto expectFilter = [](QWidget& window) {
-        EXPECT_EQ(dynamic_cast<QFileDialog&>(window).nameFilters(), QStringList{"Palace Lantern (*.plf)"});
-        window.close();
-    };
-    withOne([] { press("Ctrl+O"); }, expectFilter);
+    withOne([] { press("Ctrl+O"); },
+            [](QWidget& window) {
+                EXPECT_EQ(dynamic_cast<QFileDialog&>(window).nameFilters(),
+                          QStringList{"Palace Lantern (*.plf)"});
+                window.close();
+            });
 }
 
 TEST_F(InputForm, TakesOneDroppedChartFileAndRefusesOtherFiles) {
@@ -220,15 +214,11 @@ TEST_F(InputForm, TakesOneDroppedChartFileAndRefusesOtherFiles) {
         return drop(dragged);
     };
     enter("", "1.1.2001", 13, 30);
-    const auto dropBeforeAMessage = [&] {
-        EXPECT_TRUE(dropAll({chart}));
-        click("cmdGenerateChart");
-    };
-    const auto dropDuringIt = [&](QWidget& message) {
+    EXPECT_TRUE(dropAll({chart}));  // only to be refused, because a message comes first
+    withOne(clicking("cmdGenerateChart"), [&](QWidget& message) {
         EXPECT_FALSE(dropAll({chart}));
         message.close();
-    };
-    withOne(dropBeforeAMessage, dropDuringIt);
+    });
     for (const QList<QUrl>& urls : {QList<QUrl>{{"file:///x.txt"}}, {chart, chart}, {{"https://x/x.plf"}}})
         EXPECT_FALSE(dropAll(urls));
     EXPECT_EQ(entered(), " 1 January 2001 13 30");
@@ -259,11 +249,10 @@ TEST_F(TwoScreens, HoldEachWindowWhereThePersonIs) {
         find("frmMdi")->showNormal();
         find("frmMdi")->move(screens[1 - to]->geometry().topLeft() + QPoint{20, 20});
         const auto expectThere = std::bind_front(expectOn, 1 - to);
-        for (const char* button : {"cmdShowAll", "cmdSavePicture"})
-            withOne([=] { click(button); }, expectThere);
+        for (auto* button : {"cmdShowAll", "cmdSavePicture"}) withOne(clicking(button), expectThere);
         click("cmdBack");
         expectThere(*form);
-        withOne([] { click("cmdGenerateChart"); }, expectThere);  // a message
+        withOne(clicking("cmdGenerateChart"), expectThere);  // a message
     }
 }
 
