@@ -12,7 +12,6 @@
 #include <stdexcept>
 
 #include "app/application.h"
-#include "calendar/lunar_month.h"
 #include "chart_text.h"
 #include "files/chart_file.h"
 #include "style/text.h"
@@ -47,9 +46,6 @@ inline void await(const std::function<bool()>& comesTrue,
 }
 
 inline void click(const QString& name) { QTest::mouseClick(find(name), Qt::LeftButton); }
-inline Action clicking(const QString& name) {
-    return [=] { click(name); };
-}
 
 // Presses keys such as "Tab Ctrl+S" in a control or else each where the focus then is. Returns the names of
 // the controls that have the focus after each of them, of a cell only the index.
@@ -71,6 +67,9 @@ inline void choose(const QString& window, const QString& entry) {
     present(find(window)->findChild<QAction*>(entry), entry)->trigger();
     QCoreApplication::processEvents();
 }
+
+inline Action clicking(const QString& name) { return std::bind_front(click, name); }
+inline Action pressing(const QString& keys) { return std::bind_front(press, keys, nullptr); }
 
 // Runs `action` and, while it waits for modal windows, `act` on each that comes to the front: it may close
 // the window, or leave that to the next time. Returns how often, after so many times at least.
@@ -172,7 +171,6 @@ inline QString entered() {
 // The whole program, as it has just been started.
 struct Program : TemporaryFolder {
     Program() {
-        LunarMonth = 0;
         application_.start();
         EXPECT_TRUE(QTest::qWaitForWindowActive(find("frmMain")));
     }

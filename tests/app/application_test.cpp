@@ -16,8 +16,7 @@ TEST_F(Start, IsOfOneProgramAlsoWithoutARuntimeFolder) {
     for (const std::string& runtime : {in("missing/folder"), std::string{"/proc"}, std::string{}}) {
         runtime.empty() ? qunsetenv("XDG_RUNTIME_DIR") : qputenv("XDG_RUNTIME_DIR", runtime.c_str());
         const SingleInstance first, second;
-        EXPECT_FALSE(first.anotherIsRunning()) << runtime;
-        EXPECT_TRUE(second.anotherIsRunning()) << runtime;
+        EXPECT_TRUE(!first.anotherIsRunning() && second.anotherIsRunning()) << runtime;
     }
     qunsetenv("TMPDIR");
     qputenv("XDG_RUNTIME_DIR", before);
@@ -64,7 +63,7 @@ void expectPlaces(int width, int hidden = 0) {
          {std::pair{"cmdSavePicture", 5495}, {"cmdShowAll", 4115}, {"cmdBack", 2715}, {"cmdMdiExit", 1335}}) {
         const QRect button = find(name)->geometry();
         EXPECT_EQ(button.x(), qRound(hidden + width - twipsFromRight / 15.0)) << name;
-        EXPECT_TRUE(find("Picture2")->rect().contains(button)) << name << " at " << width;
+        EXPECT_EQ(find("Picture2")->rect() & button, button) << name << " at " << width;
         EXPECT_FALSE(banner.intersects(button)) << name << " at " << width;
     }
     for (const QRect& centred : {banner, find<QMdiSubWindow>()->geometry()})
@@ -125,24 +124,27 @@ TEST_F(Program, DoesOneThingAtATime) {
     EXPECT_EQ(messagesOf(pressAll), "");
 }
 
-TEST_F(Program, LeavesAndEntersTheChartByOneTabAndHearsItsKeysOnTheStrip) {
+TEST_F(Program, EntersTheChartByOneTabWalksItByArrowsAndHearsItsKeysOnTheStrip) {
     showChart();
     find("cmdMdiExit")->setFocus();
-    EXPECT_EQ(press("Tab Right Tab Backtab Backtab"), "(0) (11) lblBanner (11) cmdMdiExit");
+    const QString path = press(
+        "Tab Up Up Up Right Right Right Down Down Down Left Left Left Left Up Right Down Left Up Up Up");
+    EXPECT_EQ(path, "(0) (1) (2) (3) (4) (5) (6) (7) (8) (9) (10) (11) (0) (0) (1) (8) (9) (10) (5) (5) (5)");
+    EXPECT_EQ(press("Tab Backtab Backtab"), "lblBanner (5) cmdMdiExit");
     for (const auto& [key, menu] : {std::pair{Qt::Key_F, "mnuFile"}, {Qt::Key_H, "mnuHelp"}}) {
         QTest::keyClick(find("frmMdi")->windowHandle(), key, Qt::AltModifier);
         EXPECT_EQ(find<QMenu>(menu), QApplication::activePopupWidget());
         find<QMenu>(menu)->close();
     }
-    EXPECT_EQ(press("Tab"), "(11)");
+    EXPECT_EQ(press("Tab"), "(5)");
     withOne([] { press("Return", find("cmdShowAll")); });
 }
 
 TEST_F(Program, EndsFromEverywhereButByNoOtherKey) {
-    const Action ways[]{[] { click("cmExit"); },
+    const Action ways[]{clicking("cmExit"),
                         [] { choose("frmMain", "mnuExit"); },
                         [] { find("frmMain")->close(); },
-                        [] { click("cmdMdiExit"); },
+                        clicking("cmdMdiExit"),
                         [] { choose("frmDisplay", "mnuExit"); },
                         [] { find<QMdiSubWindow>()->close(); },
                         [] { find("frmMdi")->close(); }};
@@ -178,16 +180,16 @@ TEST_F(Program, OpensThePageOfEachEntryFromEachWindow) {
         EXPECT_TRUE(QTest::qWaitFor([&] { return read("page") == url; })) << url << read("page");
     };
     const auto lookUpAndClose = [&](QWidget& window) {
-        expectPage("/help.html", [] { press("F1"); });
+        expectPage("/help.html", pressing("F1"));
         press("Return");
         EXPECT_FALSE(window.isVisible());
     };
     for (const auto& [entry, name] : {std::pair{"mnuVisit", "/index.html"}, {"mnuUpdate", "/download.html"}})
-        expectPage(name, [&] { choose("frmMain", entry); });
-    expectPage("/help.html", [] { press("F1"); });
+        expectPage(name, [=] { choose("frmMain", entry); });
+    expectPage("/help.html", pressing("F1"));
     withOne([] { choose("frmMain", "mnuAbout"); }, lookUpAndClose);
     showChart();
-    expectPage("/help.html", [] { press("F1"); });
+    expectPage("/help.html", pressing("F1"));
     expectPage("/index.html", [] { press("Return", find("lblBanner")); });
     withOne(clicking("lblCover(2)"), lookUpAndClose);
     write("fail", "");

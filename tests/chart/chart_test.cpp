@@ -1,5 +1,4 @@
-// Charts: the tables of the rules beside the tradition's own rules and verses, a whole chart, and what one
-// chart leaves behind for the next.
+// Charts: the rules beside the tradition's own, a whole chart, and what one leaves behind for the next.
 
 #include <gtest/gtest.h>
 

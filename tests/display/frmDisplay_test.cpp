@@ -31,19 +31,18 @@ struct ChartWindow : testing::Test {
 TEST_F(ChartWindow, ShowsTheWholeChartAndTellsItInSentences) {
     show({1100, 800}, u" <b>X</b>&amp; ");
     for (auto* label : display_->findChildren<QLabel*>()) EXPECT_EQ(label->textFormat(), Qt::PlainText);
-    for (const CellIndex cell : allCells) {
+    for (const CellIndex cell : allCells)
         for (const CellField& field : cellFields) {
             const QLabel* label = find<QLabel>(latin(field.name) + QString("(%1)").arg(cell.value()));
             EXPECT_EQ(label->isVisible() ? label->text() : "", latinLines(shownIn(chart_.cell(cell), field)));
         }
-    }
     const QLabel* ofZiWei = find<QLabel>("lblEarthlyBranches(0)");
     EXPECT_TRUE(ofZiWei->font().bold() && ofZiWei->palette().windowText().color() == look::green);
     QStringList header;
-    for (const char* label : {"lblName", "lblDateOfBirth", "lblTimeOfBirth", "lblElement", "lblYear",
-                              "lblMonth", "lblLifePalaceat", "lblBodyPalaceat"})
-        header += textOf(label);
-    EXPECT_EQ(header.join("|"), " <b>X</b>&amp; |March/5/1985|13:1|Wood|1985|1|Wei|You");
+    for (auto* label : find("Frame2")->findChildren<QLabel*>()) header += label->text();
+    EXPECT_EQ(header.join("|"),
+              " <b>X</b>&amp; |March/5/1985|13:1|Element|Wood|Year|1985|Lunar Month|1|"
+              "Your Life Palace at|Wei|Your Body Palace at|You");
     EXPECT_TRUE(spokenCell(ChartModel{}, CellIndex{3}).endsWith(": no stars"));
     EXPECT_TRUE(cover(5)->accessibleName().startsWith("Life Palace, Wei, stem Gui, element Wood: Tian L"));
     EXPECT_EQ(cover(7)->accessibleName(),
@@ -64,14 +63,6 @@ TEST_F(ChartWindow, HintsAtWhatThePointerIsOnOrTheKeysLedTo) {
     expectHint(onCell);
     QTest::mouseMove(find("gfg"), {2, 2});
     expectHint(onGround);
-}
-
-TEST_F(ChartWindow, IsWalkedByArrowKeys) {
-    show();
-    cover(0)->setFocus();
-    const QString path =
-        press("Up Up Up Right Right Right Down Down Down Left Left Left Left Up Right Down Left Up Up Up");
-    EXPECT_EQ(path, "(1) (2) (3) (4) (5) (6) (7) (8) (9) (10) (11) (0) (0) (1) (8) (9) (10) (5) (5) (5)");
 }
 
 TEST_F(ChartWindow, IsAsLargeAsFitsAndScrollsOnlyWhereItCouldNotBeRead) {
@@ -101,10 +92,9 @@ using Labels = ChartWindow;
 TEST_F(Labels, HaveRoomInACellAllAtOnce) {
     show();
     std::map<std::string_view, std::set<QString>> texts;  // that each label ever shows
-    for (int day = 0; day < 1000; ++day) {
+    for (int day = 0; day < 1000; ++day)
         for (const ChartCell& cell : cast({u"", {day % 28, day % 12, day % 43}, 1 + day % 23, 0}).cells)
             for (const auto& field : cellFields) texts[field.name].insert(latinLines(shownIn(cell, field)));
-    }
     const QSize menu{0, find<QMenuBar>()->sizeHint().height()};
     const int dots = qRound(display_->devicePixelRatioF());
     for (int scale = std::max(6, 10 / dots); scale <= 40 / dots; ++scale) {  // up to screens of 3840 x 2160
@@ -128,16 +118,13 @@ TEST_F(Labels, HaveRoomInACellAllAtOnce) {
 TEST_F(Labels, CanBeReadOnALightChartEvenOnADarkDesktop) {
     QApplication::setPalette(QPalette{QColor{40, 40, 40}});
     show();
-    int count = 0;
     for (const QLabel* shown : display_->findChildren<QLabel*>()) {
         if (shown->text().isEmpty() || !shown->isVisible()) continue;
-        ++count;
         const QImage ground = shown->parentWidget()->grab().toImage();
         const QColor paper = ground.pixelColor(2, ground.height() / 2);  // left of all text
         const QColor letters = shown->palette().color(shown->foregroundRole());
         EXPECT_GE(look::contrast(paper, letters), 4.5) << shown->objectName().toStdString();
     }
-    EXPECT_GT(count, 80);
     const frmPalaceAnalysis analysis{AnalysisKind::onePalace, {}, {}, display_.get()};
     EXPECT_EQ(analysis.findChild<QTextEdit*>()->palette().color(QPalette::Base), look::paper);
     QApplication::setPalette({});
@@ -145,8 +132,7 @@ TEST_F(Labels, CanBeReadOnALightChartEvenOnADarkDesktop) {
 
 TEST(Look, MakesSelectionsAndTitlesLegible) {
     EXPECT_NEAR(look::contrast(QColor{0x76, 0x76, 0x76}, Qt::white), 4.54, 0.01);
-    for (const auto& [ground, letters] :
-         {std::pair{QColor{53, 132, 228}, Qt::white}, {Qt::cyan, Qt::black}}) {
+    for (auto [ground, letters] : {std::pair{QColor{53, 132, 228}, Qt::white}, {Qt::cyan, Qt::black}}) {
         QPalette desktop{ground};
         desktop.setColor(QPalette::Highlight, ground);
         desktop.setColor(QPalette::HighlightedText, letters);

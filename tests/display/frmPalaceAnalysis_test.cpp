@@ -94,7 +94,7 @@ TEST_F(Analysis, OfAPalaceIsOpenedOnceByAKeyThatIsHeldDownAndReadUntilTheNextPre
             sendKeyAt(1000, QEvent::KeyPress, *find("frmMdi"));
             hold(*find("frmMdi"));
         };
-        const auto holdAndRead = [&, time = time, seen = seen](QWidget& analysis) {
+        withOne(pressAndHold, [&, time = time, seen = seen](QWidget& analysis) {
             hold(analysis);
             expectRuns(*find<QTextEdit>("RTB"), composePalaceAnalysis(chart_, 7));
             EXPECT_TRUE(find<QTextEdit>("RTB")->isReadOnly());
@@ -105,8 +105,7 @@ TEST_F(Analysis, OfAPalaceIsOpenedOnceByAKeyThatIsHeldDownAndReadUntilTheNextPre
             sendKeyAt(time * 2, QEvent::KeyPress, analysis, Qt::Key_Return, !seen);
             EXPECT_FALSE(analysis.isVisible());
             analysis.close();
-        };
-        withOne(pressAndHold, holdAndRead);
+        });
     }
 }
 
@@ -141,7 +140,7 @@ TEST_F(Analysis, OfAllPalacesIsSavedAndAsksBeforeItOverwrites) {
     const auto save = [&](const std::vector<std::string>& typed) {
         find("RTB")->activateWindow();
         await([] { return find("RTB")->hasFocus(); });
-        return messagesOf([] { press("Ctrl+S"); }, typed);
+        return messagesOf(pressing("Ctrl+S"), typed);
     };
     const auto expectRefusal = [&](const std::string& path, const QString& why) {
         EXPECT_EQ(save({path}), why + "|stays") << path;
