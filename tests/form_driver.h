@@ -153,15 +153,14 @@ struct TemporaryFolder : testing::Test {
 
 inline const QStringList dateAndTime{"cmbDate", "cmbMonth", "cmbYear", "cmbHour", "cmbMinute"};
 
-// Enters a birth into the input form.
-inline void enter(const QString& name, const std::string& date, int hour, int minute) {
-    const auto [day, month, year] = dateOf(date);
-    find<QLineEdit>("txtName")->setText(name);
-    const int positions[]{day, month, year, hour, minute};
-    for (int i = 0; i < 5; ++i) find<QComboBox>(dateAndTime[i])->setCurrentIndex(positions[i]);
+// Enters a birth such as "JOHN SMITH 5 March 1985 13 1" into the input form.
+inline void enter(const QString& birth) {
+    find<QLineEdit>("txtName")->setText(birth.section(' ', 0, -6));
+    for (int i = 0; i < 5; ++i)
+        find<QComboBox>(dateAndTime[i])->setCurrentText(birth.section(' ', i - 5, i - 5));
 }
 
-// What the input form shows: name, date and time.
+// What the input form shows, in the same way.
 inline QString entered() {
     QStringList texts{find<QLineEdit>("txtName")->text()};
     for (const QString& list : dateAndTime) texts += find<QComboBox>(list)->currentText();
@@ -176,15 +175,13 @@ struct Program : TemporaryFolder {
     }
 
     // Casts the chart worked out by hand, or another one.
-    static void showChart(const std::string& date = "5.3.1985", int hour = 13, int minute = 1,
-                          const QString& name = "JOHN SMITH") {
-        enter(name, date, hour, minute);
+    static void showChart(const QString& birth = "JOHN SMITH 5 March 1985 13 1") {
+        enter(birth);
         EXPECT_EQ(messagesOf([] { choose("frmMain", "mnuGenerateChart"); }), "");
-        QWidget* frame = find("frmMdi");
         await([] { return find("cmdShowAll")->hasFocus(); });
         // Window managers take their time to maximise; those that never do are not waited for.
-        (void)QTest::qWaitFor([=] { return frame->frameGeometry() == frame->screen()->availableGeometry(); },
-                              500);
+        const QRect room = find("frmMdi")->screen()->availableGeometry();
+        (void)QTest::qWaitFor([=] { return find("frmMdi")->frameGeometry() == room; }, 500);
     }
 
     Application application_;
