@@ -28,8 +28,7 @@ constexpr std::pair<Star, std::array<Star, 10>> transformedByYearDigit[]{
     {HuaQuan, {WuQu, TaiYang, ZiWei, JuMen, PoJun, TianLiang, TianJi, TianTong, TaiYin, TanLang}},
     {Huake, {TianTong, WenQu, ZuoFu, TaiYin, WuQu, ZiWei, WenChang, TianJi, YouBi, TianLiang}},
     {HuaJi, {TaiYin, WenChang, WuQu, TanLang, TaiYang, TaiYin, LianZhen, JuMen, TianJi, WenQu}}};
-constexpr std::array<const char*, 10> stems{"Jia", "Yi",   "Bing", "Ding", "Wu",
-                                            "Ji",  "Geng", "Xin",  "Ren",  "Gui"};
+constexpr const char* stems[]{"Jia", "Yi", "Bing", "Ding", "Wu", "Ji", "Geng", "Xin", "Ren", "Gui"};
 constexpr std::pair<const char*, int> bureaus[]{
     {"Metal", 4}, {"Water", 2}, {"Fire", 6}, {"Earth", 5}, {"Wood", 3}};
 

@@ -104,7 +104,6 @@ TEST_F(Analysis, OfAPalaceIsOpenedOnceByAKeyThatIsHeldDownAndReadUntilTheNextPre
                       seen ? Qt::Key_Return : Qt::Key_Shift);
             sendKeyAt(time * 2, QEvent::KeyPress, analysis, Qt::Key_Return, !seen);
             EXPECT_FALSE(analysis.isVisible());
-            analysis.close();
         });
     }
 }
