@@ -23,9 +23,8 @@ TEST(Tradition, HasTheLunarMonthsOfTheUsualCalendarButForTheDepartures) {
     for (int i = 0; i < yearCount * monthCount * dayCount; ++i) {
         const PickedDate date{i % dayCount, i / dayCount % monthCount, i / dayCount / monthCount};
         const auto month = year{date.year()} / date.month();
-        const auto realDay = std::min(sys_days{month / 1} + days{date.dayPosition}, sys_days{month / last});
-        const milliseconds noon = realDay.time_since_epoch() + 4h;
-        chinese->setTime(static_cast<double>(noon.count()), error);
+        const auto noon = std::min(sys_days{month / 1} + days{date.dayPosition}, sys_days{month / last}) + 4h;
+        chinese->setTime(static_cast<double>(milliseconds{noon.time_since_epoch()}.count()), error);
         const int usual = chinese->get(UCAL_MONTH, error) + 1;  // in a leap month that of the month before
         LunarMonth = 0;
         FindLunarMonth(date);

@@ -5,7 +5,6 @@
 #include <map>
 
 #include "display/chart_accessibility.h"
-#include "display/frmPalaceAnalysis.h"
 #include "display/label_places.h"
 #include "form_driver.h"
 

@@ -2,7 +2,6 @@
 
 #include <cmath>
 
-#include "app/start_rules.h"
 #include "files/picture_export.h"
 #include "files/saved_files.h"
 #include "form_driver.h"

@@ -24,8 +24,7 @@ struct InputForm : Program {
 
     // The name box's text, with brackets round the selection or at the cursor.
     void setState(const QString& marked) {
-        static const QRegularExpression marks{"[][]"};
-        const QStringList parts = marked.split(marks);
+        const QStringList parts = marked.split(QRegularExpression{"[][]"});
         form_->fillIn({parts.join("").toStdString(), "", "", ""});
         name_->setSelection(int(parts[0].size()), int(parts[1].size()));
     }
