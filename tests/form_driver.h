@@ -12,8 +12,9 @@
 #include <stdexcept>
 
 #include "app/application.h"
-#include "calendar/lunar_month.h"
 #include "chart_text.h"
+#include "files/chart_file.h"
+#include "style/text.h"
 #include "system_limits.h"
 
 using Action = std::function<void()>;
@@ -46,12 +47,17 @@ inline void await(const std::function<bool()>& comesTrue,
 
 inline void click(const QString& name) { QTest::mouseClick(find(name), Qt::LeftButton); }
 
-// Presses keys such as "Tab Ctrl+S" in a control or else each where the focus then is.
-inline void press(const QString& keys, QWidget* control = nullptr) {
+// Presses keys such as "Tab Ctrl+S" in a control or else each where the focus then is. Returns the names of
+// the controls that have the focus after each of them, of a cell only the index.
+inline QString press(const QString& keys, QWidget* control = nullptr) {
+    QStringList names;
     for (const QString& key : keys.split(' ')) {
         QWidget* focused = control != nullptr ? control : QApplication::focusWidget();
         QTest::keySequence(present(focused, "focus"), QKeySequence{key});
+        focused = QApplication::focusWidget();
+        names += focused != nullptr ? focused->objectName() : "none";
     }
+    return names.join(" ").remove("lblCover");
 }
 
 inline QString textOf(const QString& label) { return find<QLabel>(label)->text(); }
@@ -62,14 +68,17 @@ inline void choose(const QString& window, const QString& entry) {
     QCoreApplication::processEvents();
 }
 
+inline Action clicking(const QString& name) { return std::bind_front(click, name); }
+inline Action pressing(const QString& keys) { return std::bind_front(press, keys, nullptr); }
+
 // Runs `action` and, while it waits for modal windows, `act` on each that comes to the front: it may close
-// the window, or leave that to the next time.
-inline void withModals(const Action& action, const std::function<void(QWidget&)>& act) {
+// the window, or leave that to the next time. Returns how often, after so many times at least.
+inline int withModals(const Action& action, const std::function<void(QWidget&)>& act, int least = 0) {
     static int watching = 0;
     const int level = ++watching;
     const auto watched = qScopeGuard([] { --watching; });
     QWidget* actedOn = QApplication::activeModalWidget();
-    std::exception_ptr failure;
+    int count = 0;
     QObject watch;
     Action look = [&] {
         QTimer::singleShot(10, &watch, look);  // before all else, which may wait for another window
@@ -79,9 +88,10 @@ inline void withModals(const Action& action, const std::function<void(QWidget&)>
         window->activateWindow();  // which some window managers leave out where windows change quickly
         await([=] { return window->isActiveWindow(); });
         try {
+            if (++count > 50) throw std::runtime_error{"This dialog stays open."};
             act(*window);
-        } catch (const std::exception&) {  // the toolkit lets none through
-            failure = std::current_exception();
+        } catch (const std::exception& failure) {  // the toolkit lets none through
+            ADD_FAILURE() << failure.what();
             dynamic_cast<QDialog&>(*window).reject();
         }
         actedOn = before;
@@ -89,55 +99,45 @@ inline void withModals(const Action& action, const std::function<void(QWidget&)>
     QTimer::singleShot(10, &watch, look);
     action();
     QCoreApplication::processEvents();
-    if (failure) std::rethrow_exception(failure);
+    (void)QTest::qWaitFor([&] { return count >= least; });
+    return count;
 }
 
 // Expects that `action` brings up one modal window, soon or late, and runs `act` on it, which closes it.
 inline void withOne(const Action& action, const std::function<void(QWidget&)>& act = &QWidget::close,
                     const std::source_location& where = std::source_location::current()) {
-    int count = 0;
-    const auto actAndWait = [&] {
-        action();
-        (void)QTest::qWaitFor([&] { return count > 0; });
-    };
-    const auto actAndCount = [&](QWidget& window) {
-        ++count;
-        act(window);
-    };
-    withModals(actAndWait, actAndCount);
-    EXPECT_EQ(count, 1) << where.file_name() << ":" << where.line();
+    EXPECT_EQ(withModals(action, act, 1), 1) << where.file_name() << ":" << where.line();
 }
 
-// The messages that `action` brings up, as "icon|text" under the usual title, each closed by Escape, a
-// question by Enter, which means No, or by Yes. A file dialog among them is given what is to be typed, one
-// text after another, and is cancelled where it stays.
-inline QStringList messagesOf(const Action& action, const std::vector<std::string>& typed = {},
-                              bool yes = false) {
+// The messages that `action` brings up, as "icon|text" under the usual title, each closed by Escape. A file
+// dialog among them is given what is to be typed, one text after another, and is cancelled where it stays; a
+// question is answered by a key from there or by Enter, which means No.
+inline QString messagesOf(const Action& action, const std::vector<std::string>& typed = {}) {
     const QStringList icons{"none", "information", "warning", "critical", "question"};
     QStringList seen;
     auto next = typed.begin();
     withModals(action, [&](QWidget& window) {
+        QString keys = "Escape";
         if (const auto* box = qobject_cast<QMessageBox*>(&window)) {
             EXPECT_EQ(box->textFormat(), Qt::PlainText);
             const bool usual = box->windowTitle() == "Palace Lantern Message";
             seen += (usual ? "" : box->windowTitle() + "|") + icons[box->icon()] + "|" + box->text();
             if (box->icon() == QMessageBox::Question)
-                return yes ? box->button(QMessageBox::Yes)->click() : press("Return");
+                keys = next == typed.end() ? "Return" : (next++)->c_str();
         } else if (auto* name = find<QLineEdit>("fileNameEdit"); next != typed.end()) {
             await([name] { return name->hasFocus(); });
             name->setText(QString::fromStdString(*next++));
-            return press("Return");
+            keys = "Return";
         } else if (!typed.empty()) {
             seen += name->text().toStdString() == typed.back() ? "stays" : "loses the name";
         }
-        press("Escape", &window);
+        press(keys, keys == "Escape" ? &window : nullptr);
     });
-    return seen;
+    return seen.join("|");
 }
 
 // A folder of a test's own, gone with all that is in it at the end. Its name has a dot, as a person's may.
-class TemporaryFolder : public testing::Test {
-  protected:
+struct TemporaryFolder : testing::Test {
     std::string in(const std::string& name) const { return folder_ + "/" + name; }
     void write(const std::string& name, const std::string& bytes) const {
         std::ofstream{in(name), std::ios::binary} << bytes;
@@ -153,15 +153,14 @@ class TemporaryFolder : public testing::Test {
 
 inline const QStringList dateAndTime{"cmbDate", "cmbMonth", "cmbYear", "cmbHour", "cmbMinute"};
 
-// Enters a birth into the input form.
-inline void enter(const QString& name, const std::string& date, int hour, int minute) {
-    const auto [day, month, year] = dateOf(date);
-    find<QLineEdit>("txtName")->setText(name);
-    const int positions[]{day, month, year, hour, minute};
-    for (int i = 0; i < 5; ++i) find<QComboBox>(dateAndTime[i])->setCurrentIndex(positions[i]);
+// Enters a birth such as "JOHN SMITH 5 March 1985 13 1" into the input form.
+inline void enter(const QString& birth) {
+    find<QLineEdit>("txtName")->setText(birth.section(' ', 0, -6));
+    for (int i = 0; i < 5; ++i)
+        find<QComboBox>(dateAndTime[i])->setCurrentText(birth.section(' ', i - 5, i - 5));
 }
 
-// What the input form shows: name, date and time.
+// What the input form shows, in the same way.
 inline QString entered() {
     QStringList texts{find<QLineEdit>("txtName")->text()};
     for (const QString& list : dateAndTime) texts += find<QComboBox>(list)->currentText();
@@ -169,24 +168,20 @@ inline QString entered() {
 }
 
 // The whole program, as it has just been started.
-class Program : public TemporaryFolder {
-  protected:
+struct Program : TemporaryFolder {
     Program() {
-        LunarMonth = 0;
         application_.start();
         EXPECT_TRUE(QTest::qWaitForWindowActive(find("frmMain")));
     }
 
     // Casts the chart worked out by hand, or another one.
-    static void showChart(const std::string& date = "5.3.1985", int hour = 13, int minute = 1,
-                          const QString& name = "JOHN SMITH") {
-        enter(name, date, hour, minute);
-        EXPECT_EQ(messagesOf([] { choose("frmMain", "mnuGenerateChart"); }), QStringList{});
-        QWidget* frame = find("frmMdi");
+    static void showChart(const QString& birth = "JOHN SMITH 5 March 1985 13 1") {
+        enter(birth);
+        EXPECT_EQ(messagesOf([] { choose("frmMain", "mnuGenerateChart"); }), "");
         await([] { return find("cmdShowAll")->hasFocus(); });
         // Window managers take their time to maximise; those that never do are not waited for.
-        (void)QTest::qWaitFor([=] { return frame->frameGeometry() == frame->screen()->availableGeometry(); },
-                              500);
+        const QRect room = find("frmMdi")->screen()->availableGeometry();
+        (void)QTest::qWaitFor([=] { return find("frmMdi")->frameGeometry() == room; }, 500);
     }
 
     Application application_;

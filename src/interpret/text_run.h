@@ -24,4 +24,5 @@ struct TextStyle {
 struct TextRun {
     std::string text;  // ASCII, CR LF as line break
     TextStyle style;
+    friend bool operator==(const TextRun&, const TextRun&) = default;
 };

@@ -1,5 +1,4 @@
-// Charts: the tables of the rules beside the tradition's own rules and verses, a whole chart, and what one
-// chart leaves behind for the next.
+// Charts: the rules beside the tradition's own, a whole chart, and what one leaves behind for the next.
 
 #include <gtest/gtest.h>
 
@@ -29,8 +28,7 @@ constexpr std::pair<Star, std::array<Star, 10>> transformedByYearDigit[]{
     {HuaQuan, {WuQu, TaiYang, ZiWei, JuMen, PoJun, TianLiang, TianJi, TianTong, TaiYin, TanLang}},
     {Huake, {TianTong, WenQu, ZuoFu, TaiYin, WuQu, ZiWei, WenChang, TianJi, YouBi, TianLiang}},
     {HuaJi, {TaiYin, WenChang, WuQu, TanLang, TaiYang, TaiYin, LianZhen, JuMen, TianJi, WenQu}}};
-constexpr std::array<const char*, 10> stems{"Jia", "Yi",   "Bing", "Ding", "Wu",
-                                            "Ji",  "Geng", "Xin",  "Ren",  "Gui"};
+constexpr const char* stems[]{"Jia", "Yi", "Bing", "Ding", "Wu", "Ji", "Geng", "Xin", "Ren", "Gui"};
 constexpr std::pair<const char*, int> bureaus[]{
     {"Metal", 4}, {"Water", 2}, {"Fire", 6}, {"Earth", 5}, {"Wood", 3}};
 
@@ -52,8 +50,7 @@ void compare(const ChartModel& chart, int day) {
     EXPECT_EQ(chart.cellOf(ZiWei), bureau == 5 && day == 26 ? CellIndex{Chen} : counted);
     for (const auto& [star, branches] : byMonth)
         EXPECT_EQ(chart.cellOf(star), CellIndex{branches.at(static_cast<std::size_t>(chart.lunarMonth - 1))});
-    for (const auto& [star, branches] : byYearDigit)
-        EXPECT_EQ(chart.cellOf(star), CellIndex{branches[digit]});
+    for (const auto& [star, cells] : byYearDigit) EXPECT_EQ(chart.cellOf(star), CellIndex{cells[digit]});
     for (const auto& [star, marked] : transformedByYearDigit)
         EXPECT_EQ(chart.cellOf(star), chart.cellOf(marked[digit]));
 }
@@ -65,73 +62,58 @@ TEST(Tradition, HasStemsBureausAndStarsAsTheyAre) {
     }
 }
 
-const BirthEntry first = handBirth, other = birth("24.12.2003");
-
-// The program as it has just been started.
-class Chains : public testing::Test {
-  protected:
-    Chains() { LunarMonth = 0; }
-
-    void next(const BirthEntry& entry) { ASSERT_TRUE(generateChart(entry, chart_).has_value()); }
-
-    ChartModel chart_;
-};
-
-TEST_F(Chains, AgreeWithTheHandChart) {
-    chart_.starCells.fill(CellIndex{7});  // where no star of the last one stands
-    next(handBirth);
-    for (const CellIndex cell : allCells) EXPECT_EQ(cellLine(chart_, cell), handCells[cell.index()]);
-    EXPECT_EQ(chart_.lblLifePalaceat, "Wei");
-    EXPECT_EQ(chart_.lblBodyPalaceat, "You");
-    for (const StarRow& row : starTable)
-        EXPECT_TRUE(chart_.cell(chart_.cellOf(row.star)).holds(row.star)) << row.field.text.text();
-    next(birth("29.2.1992", 0, 0));
-    const auto& [name, year, month, day] = chart_.input;
+TEST(Chart, AgreesWithTheHandChart) {
+    ChartModel before;
+    before.starCells.fill(CellIndex{7});  // where no star of the last one stands
+    const ChartModel chart = cast(handBirth, before);
+    for (const CellIndex cell : allCells) EXPECT_EQ(cellLine(chart, cell), handCells[cell.index()]);
+    for (const auto& [star, field] : starTable)
+        EXPECT_TRUE(chart.cell(chart.cellOf(star)).holds(star)) << field.text.text();
+    const auto& [name, year, month, day] = cast(birth("29.2.1992", 0, 0)).input;
     EXPECT_TRUE(name == u"JOHN SMITH" && year == 1992 && month == "February" && day == 29) << "as entered";
 }
 
-TEST_F(Chains, FlagsStayUntilTheCellsAreLoadedAndMarkedBranchesAreNotFoundAgain) {
-    const ChartModel firstChart = cast(first);
-    ChartModel both = cast(other);
+TEST(Chart, KeepsFlagsUntilTheCellsAreLoadedAndFindsMarkedBranchesOnlyOnce) {
+    const BirthEntry other = birth("24.12.2003"), later = birth("31.3.1985");
+    const ChartModel first = cast(handBirth);
+    ChartModel both = cast(other), chart = cast(other, cast(other, first));
     both.cells[0].lblEarthlyBranches = "Zi Wei\r\nYin";
-    for (const auto& entry : {first, other, other}) next(entry);
     for (const CellIndex cell : allCells) {
         for (const CellField& field : cellFields)
-            if (field.flag != nullptr) both.cell(cell).*field.flag |= firstChart.cell(cell).*field.flag;
-        EXPECT_EQ(cellLine(chart_, cell), cellLine(both, cell));
+            if (field.flag != nullptr) both.cell(cell).*field.flag |= first.cell(cell).*field.flag;
+        EXPECT_EQ(cellLine(chart, cell), cellLine(both, cell));
     }
-    for (const auto& entry : {first, birth("31.3.1985")}) {
-        next(entry);  // so the cell of the chart before stays
-        EXPECT_EQ(chart_.cellOf(Star::ZiWei), both.cellOf(Star::ZiWei));
+    for (const auto& entry : {handBirth, later}) {
+        chart = cast(entry, chart);  // so the cell of the chart before stays
+        EXPECT_EQ(chart.cellOf(ZiWei), both.cellOf(ZiWei));
     }
-    chart_.loadCells();
-    next(birth("31.3.1985"));
-    EXPECT_TRUE(chart_.cell(chart_.cellOf(ZiWei)).holds(ZiWei)) << "its branch stays, too";
+    chart.loadCells();
+    chart = cast(later, chart);
+    EXPECT_TRUE(chart.cell(chart.cellOf(ZiWei)).holds(ZiWei)) << "its branch stays, too";
 }
 
-TEST_F(Chains, ADateWithoutALunarMonthCountsFromTheChartBefore) {
-    next(birth("9.7.1975", 0, 30));
-    EXPECT_EQ(chart_.cellOf(Star::ZuoFu), CellIndex{1});
-    for (const ChartCell& each : chart_.cells) EXPECT_FALSE(each.lblJieShen || each.lblTianYue);
+TEST(Chart, OfADateWithoutALunarMonthCountsFromTheChartBefore) {
+    LunarMonth = 0;
+    const ChartModel chart = cast(birth("9.7.1975", 0, 30));
+    EXPECT_EQ(chart.cellOf(ZuoFu), CellIndex{1});
+    for (const ChartCell& each : chart.cells) EXPECT_FALSE(each.lblJieShen || each.lblTianYue);
     for (const auto& [entry, month] : {std::pair{birth("24.12.2003"), 12},
-                                       {birth("8.7.1975", 0, 0), 12},    // midnight moves it into the gap
-                                       {birth("9.7.1975", 0, 0), 6}}) {  // and this one out of it
-        next(entry);
-        EXPECT_EQ(chart_.lunarMonth, month);
-    }
+                                       {birth("8.7.1975", 0, 0), 12},  // midnight moves it into the gap
+                                       {birth("9.7.1975", 0, 0), 6}})  // and this one out of it
+        EXPECT_EQ(cast(entry).lunarMonth, month);
 }
 
-TEST_F(Chains, MidnightTurnsTheMonthWhereItEnds) {
+TEST(Chart, OfMidnightIsTheNextDays) {
     constexpr std::pair<const char*, const char*> turns[]{
         {"28.2.1987", "1.3.1987"},  {"29.2.2000", "1.3.2000"},    {"30.4.1985", "1.5.1985"},
         {"31.12.1998", "1.1.1999"}, {"30.12.1999", "31.12.1999"}, {"31.12.2011", "1.1.2012"}};
+    ChartModel chart;
     for (const auto& [from, to] : turns) {
-        EXPECT_EQ(generateChart(birth(from, 0, 0), chart_), dateOf(to)) << from;
-        EXPECT_EQ(chart_.yearDigit, dateOf(to).year() % 10);
-        EXPECT_EQ(generateChart(birth(from, 0, 1), chart_), dateOf(from));
+        EXPECT_EQ(generateChart(birth(from, 0, 0), chart), dateOf(to)) << from;
+        EXPECT_EQ(chart.yearDigit, dateOf(to).year() % 10);
+        EXPECT_EQ(generateChart(birth(from, 0, 1), chart), dateOf(from));
     }
-    for (const char* last : {"31.12.1999", "31.12.2012"})
-        EXPECT_EQ(generateChart(birth(last, 0, 0), chart_), std::nullopt);
+    for (auto* last : {"31.12.1999", "31.12.2012"}) EXPECT_FALSE(generateChart(birth(last, 0, 0), chart));
 }
 
 }  // namespace

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <chrono>
 #include <memory>
+#include <utility>
 
 #include "calendar/lunar_month.h"
 
@@ -18,22 +19,21 @@ TEST(Tradition, HasTheLunarMonthsOfTheUsualCalendarButForTheDepartures) {
     UErrorCode error = U_ZERO_ERROR;
     const std::unique_ptr<icu::Calendar> chinese{icu::Calendar::createInstance(
         icu::TimeZone::createTimeZone("GMT+8"), icu::Locale{"@calendar=chinese"}, error)};
-    std::string found, before;
+    std::string found, before = ", ";
     for (int i = 0; i < yearCount * monthCount * dayCount; ++i) {
         const PickedDate date{i % dayCount, i / dayCount % monthCount, i / dayCount / monthCount};
         const auto month = year{date.year()} / date.month();
-        const auto realDay = std::min(sys_days{month / 1} + days{date.dayPosition}, sys_days{month / last});
-        const milliseconds noon = realDay.time_since_epoch() + 4h;
-        chinese->setTime(static_cast<double>(noon.count()), error);
+        const auto noon = std::min(sys_days{month / 1} + days{date.dayPosition}, sys_days{month / last}) + 4h;
+        chinese->setTime(static_cast<double>(milliseconds{noon.time_since_epoch()}.count()), error);
         const int usual = chinese->get(UCAL_MONTH, error) + 1;  // in a leap month that of the month before
         LunarMonth = 0;
         FindLunarMonth(date);
-        std::string now = ": " + std::to_string(LunarMonth) + " for " + std::to_string(usual) + " to ";
-        if (LunarMonth == usual) now = ", ";
-        if (i > 0 && now != before)
+        const std::string departure =
+            ": " + std::to_string(LunarMonth) + " for " + std::to_string(usual) + " to ";
+        const std::string now = LunarMonth == usual ? ", " : departure;
+        if (now != std::exchange(before, now))
             found += std::to_string(date.day()) + '.' + std::to_string(date.month()) + '.' +
                      std::to_string(date.year()) + now;
-        before = now;
     }
     EXPECT_TRUE(U_SUCCESS(error));
     EXPECT_EQ(found,

@@ -43,7 +43,6 @@ const std::string a244(244, 'a'), b252(252, 'b');
 // Folder, name, what is taken, and the path for the picture.
 // clang-format off
 const std::tuple<const char*, std::string, std::set<std::string>, std::string> namings[]{
-    {"/p/",      "chart.JPG",   {}, "/p/chart.JPG"},
     {"/x.bmp/",  "a.BMP.Bmp.b", {}, "/x.bmp/a.jpg.jpg.b"},
     {"",         "chart",       {}, "/app/chart.jpg"},
     {"//p//q//", "chart",       {}, "/p/q/chart.jpg"},
@@ -61,13 +60,10 @@ const std::tuple<const char*, std::string, std::set<std::string>, std::string> n
 TEST(PictureName, FollowsTheNamingRule) {
     for (const auto& [folder, name, taken, path] : namings) {
         const auto exists = [&those = taken](const auto& each) { return those.contains(each); };
-        const auto result = uniquePictureName(folder, name, {"/app", exists, "20090307040506007"});
-        EXPECT_EQ(result.path(), path) << folder << " " << name;
+        EXPECT_EQ(uniquePictureName(folder, name, {"/app", exists, "20090307040506007"}).path(), path);
     }
     const auto allButOne = [](const std::string& candidate) { return candidate != "/p/chart_999.jpg"; };
     EXPECT_EQ(uniquePictureName("/p", "chart", {"", allButOne, ""}).name, "chart_999.jpg");
-    const auto last = uniquePictureName("/p", "chart", {"", [](const std::string&) { return true; }, ""});
-    EXPECT_TRUE(last.tooManyCopies && last.name == "chart.jpg");
     EXPECT_EQ(bitmapPathFor("/p.jpg/my.chart.JPG"), "/p.jpg/my.chart.bmp");
 }
 

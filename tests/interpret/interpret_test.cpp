@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <set>
 #include <span>
 #include <vector>
@@ -67,11 +66,6 @@ void add(Runs& runs, std::string_view text, const TextStyle& style, std::string_
     runs.push_back({std::string{text}.append(end), style});
 }
 
-bool same(const Runs& left, const Runs& right) {
-    const auto parts = [](const TextRun& run) { return std::pair{run.text, run.style}; };
-    return std::ranges::equal(left, right, {}, parts, parts);
-}
-
 // What each cell of the first hand chart is about: its palace and then its stars, as indices into the texts.
 const std::vector<std::vector<std::size_t>> subjects{{5, 0, 6}, {4, 7},      {3, 8}, {2, 9}, {1, 5}, {0, 11},
                                                      {11, 12},  {10, 4, 10}, {9, 3}, {8, 2}, {7},    {6, 1}};
@@ -93,12 +87,12 @@ TEST(Composer, WritesPalaceBodyAndStarsInTheirOrder) {
             add(runs, starTexts[star].general, black);
             add(runs, starInPalaceTexts[star][palace], brown);
         }
-        EXPECT_TRUE(same(composePalaceAnalysis(chart, cell.value()), runs)) << cell.value();
+        EXPECT_TRUE(composePalaceAnalysis(chart, cell.value()) == runs) << cell.value();
         all.insert(all.end(), runs.begin(), runs.end());
         add(all, "", runs.back().style);
     }
-    EXPECT_TRUE(same(composeAllPalaces(chart), all));
-    EXPECT_TRUE(same({introRun()}, {{std::string{introText} + "\r\n\r\n", black}}));
+    EXPECT_TRUE(composeAllPalaces(chart) == all);
+    EXPECT_TRUE((introRun() == TextRun{std::string{introText} + "\r\n\r\n", black}));
     chart.cells[0].lblPalace = "health";  // no name that is known
     EXPECT_EQ(composePalaceAnalysis(chart, 0).size(), 1U);
     for (const int cell : {-1, 12}) EXPECT_TRUE(composePalaceAnalysis(chart, cell).empty());
