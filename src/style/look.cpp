@@ -96,7 +96,7 @@ QPalette legibleTitle(const QPalette& desktop) {
 
 QFont titleFont() {
     QFont font;
-    font.setPointSizeF(font.pointSizeF() * 1.7);
+    font.setPointSizeF(QFontInfo{font}.pointSizeF() * 1.7);  // the desktop's font may be set in pixels
     font.setBold(true);
     return font;
 }

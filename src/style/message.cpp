@@ -1,6 +1,7 @@
 #include "style/message.h"
 
 #include <QAbstractButton>
+#include <QGridLayout>
 #include <QKeyEvent>
 
 #include "style/look.h"
@@ -11,6 +12,8 @@ bool entersText(const QKeyEvent& event) {
     return !event.text().isEmpty() && event.text().front().isPrint() &&
            !(event.modifiers() & (Qt::ControlModifier | Qt::AltModifier));
 }
+
+constexpr int frameButtons = 160;  // pixels
 
 QString defaultTitle() { return look::productName() + QStringLiteral(" Message"); }
 
@@ -23,6 +26,10 @@ class Message : public QMessageBox {
         setTextFormat(Qt::PlainText);
         setText(text);
         setAccessibleDescription(text);  // which a screen reader announces
+        // A QMessageBox does not leave enough room for its title in frames with an icon and three buttons.
+        const int titleWidth = fontMetrics().horizontalAdvance(title) + frameButtons;
+        if (auto* grid = qobject_cast<QGridLayout*>(layout()))
+            grid->addItem(new QSpacerItem{qMin(titleWidth, 400), 0}, grid->rowCount(), 0, 1, -1);
     }
 
   protected:
