@@ -35,11 +35,9 @@ inline std::string shownIn(const ChartCell& cell, const CellField& field) {
 // Everything that stands in the cell, label after label.
 inline std::string cellLine(const ChartModel& chart, CellIndex cell) {
     std::string line;
-    for (const CellField& field : cellFields) {
-        const std::string text = shownIn(chart.cell(cell), field);
-        if (!text.empty()) line += line.empty() ? text : ", " + text;
-    }
-    return line;
+    for (const CellField& field : cellFields)
+        if (const std::string text = shownIn(chart.cell(cell), field); !text.empty()) line += ", " + text;
+    return line.substr(2);
 }
 
 // A chart worked out by hand.

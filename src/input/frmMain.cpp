@@ -28,8 +28,8 @@ namespace {
 class EntryView : public QListView {
   protected:
     void currentChanged(const QModelIndex& current, const QModelIndex& previous) override {
-        isVisible() ? QListView::currentChanged(current, previous)
-                    : QAbstractItemView::currentChanged(current, previous);
+        if (isVisible()) return QListView::currentChanged(current, previous);
+        QAbstractItemView::currentChanged(current, previous);
     }
 };
 
@@ -218,7 +218,8 @@ bool frmMain::passesCheck(const BirthEntry& birth) {
     const auto message = checkBirthEntry(birth);
     if (!message) return true;
     showMessage(this, QMessageBox::Information, latin(*message));
-    birth.name.empty() ? txtName->setFocus() : cmbDate->setFocus();
+    if (birth.name.empty()) txtName->setFocus();
+    if (!birth.name.empty()) cmbDate->setFocus();
     return false;
 }
 

@@ -116,7 +116,8 @@ void NameBox::contextMenuEvent(QContextMenuEvent* event) {
 
 // A dragged file, although it comes with a text, is left to the form.
 void NameBox::dragEnterEvent(QDragEnterEvent* event) {
-    event->mimeData()->hasUrls() ? event->ignore() : QLineEdit::dragEnterEvent(event);
+    if (event->mimeData()->hasUrls()) return event->ignore();
+    QLineEdit::dragEnterEvent(event);
 }
 
 // Text from elsewhere is copied even where a move is proposed: a move would lose what the filter removes.

@@ -17,7 +17,8 @@ bool CommandButton::event(QEvent* event) {
 }
 
 void PressArea::keyPressEvent(QKeyEvent* event) {
-    isEnter(event->key()) ? click() : QAbstractButton::keyPressEvent(event);
+    if (isEnter(event->key())) return click();
+    QAbstractButton::keyPressEvent(event);
 }
 
 QMenuBar* newMenuBar(QWidget* window) {

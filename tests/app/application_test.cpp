@@ -136,7 +136,8 @@ TEST_F(Program, EntersTheChartByOneTabWalksItByArrowsAndHearsItsKeysOnTheStrip) 
 }
 
 TEST_F(Program, EndsFromEverywhereButByNoOtherKey) {
-    const Action ways[]{[] { choose("frmMain", "mnuExit"); },
+    const Action ways[]{clicking("cmExit"),
+                        [] { choose("frmMain", "mnuExit"); },
                         [] { find("frmMain")->close(); },
                         clicking("cmdMdiExit"),
                         [] { choose("frmDisplay", "mnuExit"); },
@@ -145,7 +146,7 @@ TEST_F(Program, EndsFromEverywhereButByNoOtherKey) {
     for (std::size_t way = 0; way < std::size(ways); ++way) {
         find("frmMain")->show();
         press("Escape", find("txtName"));
-        if (way >= 2) {
+        if (way >= 3) {
             showChart();
             press("Escape Ctrl+W Ctrl+F4", find("lblCover(3)"));
             QTest::mouseMove(find<QMdiSubWindow>(), {12, 12});

@@ -63,9 +63,7 @@ TEST(Tradition, HasStemsBureausAndStarsAsTheyAre) {
 }
 
 TEST(Chart, AgreesWithTheHandChart) {
-    ChartModel before;
-    before.starCells.fill(CellIndex{7});  // where no star of the last one stands
-    const ChartModel chart = cast(handBirth, before);
+    const ChartModel chart = cast(handBirth);
     for (const CellIndex cell : allCells) EXPECT_EQ(cellLine(chart, cell), handCells[cell.index()]);
     for (const auto& [star, field] : starTable)
         EXPECT_TRUE(chart.cell(chart.cellOf(star)).holds(star)) << field.text.text();

@@ -124,6 +124,8 @@ TEST_F(Analysis, OfAPalaceIsNotClosedByTheSecondHalfOfADoubleClick) {
         };
         withOne([&] { clickAt(1000, *find("lblCover(7)")); }, clickAgain);
     }
+    const Action clickBelow = [&] { clickAt(3100, *find("lblCover(7)")); };  // soon after the last cmdOk
+    EXPECT_EQ(withModals(clickBelow, &QWidget::close), 0) << "nor does it open another as one closes";
     const auto chooseQuickly = [&] {
         // Since Qt 6.8, a menu takes a click only away from where the pointer was as it opened.
         QTest::mouseMove(find("frmMdi")->windowHandle(), {9, 9});

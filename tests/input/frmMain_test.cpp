@@ -84,6 +84,7 @@ TEST_F(InputForm, FiltersWhatComesInOnEveryWayAndLeavesWhatIsThere) {
     const std::tuple<QString, Action, QString, QString, bool> rows[]{
         {"[AB]XCD", type, "-", "[AB]XCD", true},
         {"AB[]CD", type, "x", "ABX[]CD", false},
+        {"O'NEIL[]", type, "S", "O'NEILS[]", false},
         {"O'NEIL[]", pressing("Backspace"), "", "O'NEI[]", false},
         {"A[]", typeWithAltGr, "q", "AQ[]", false},
         {"A[]", typeWith(Qt::KeypadModifier), "7", "A[]", true},
