@@ -18,8 +18,14 @@ bool PressFilter::discards(QObject* receiver, QEvent* event) {
             releasedKey_ = static_cast<QKeyEvent*>(event)->key();
             released_ = static_cast<QKeyEvent*>(event)->timestamp();
             return false;
+        // Qt 6.8 still: the list of a QComboBox closes before the press. Under Wayland, that would go on to
+        // the window behind.
+        case QEvent::ShortcutOverride:
+            popupIsOpen_ = QApplication::activePopupWidget() != nullptr;
+            return false;
         case QEvent::KeyPress:
-            return isRepeated(*static_cast<QKeyEvent*>(event));
+            return isRepeated(*static_cast<QKeyEvent*>(event)) ||
+                   (std::exchange(popupIsOpen_, false) && QApplication::activePopupWidget() == nullptr);
         case QEvent::MouseButtonPress:
             discardsClick_ = isSecondClick(*static_cast<QMouseEvent*>(event), window);
             return discardsClick_;

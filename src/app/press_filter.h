@@ -11,15 +11,17 @@ class QMouseEvent;
 
 class PressFilter {
   public:
-    // Whether the event must not be delivered: the auto-repeat of Enter, and of Space outside text boxes; and
-    // the second click of a double click whose first went to another window, unless a popup gets the second.
-    // Must run before any event filter: that of Qt's accessibility bridge sends keys on without timestamps.
+    // Whether the event must not be delivered: the auto-repeat of Enter, and of Space outside text boxes; a
+    // key that has closed a list; the second click of a double click whose first went to another window,
+    // unless a popup gets it. Must run before event filters: Qt's accessibility bridge removes timestamps of
+    // keys.
     bool discards(QObject* receiver, QEvent* event);
 
   private:
     bool isRepeated(const QKeyEvent& key);
     bool isSecondClick(const QMouseEvent& click, QWindow* window);
 
+    bool popupIsOpen_ = false;  // before the current key
     int pressedKey_ = 0;
     int releasedKey_ = 0;
     quint64 released_ = 0;  // timestamp in milliseconds

@@ -96,9 +96,12 @@ void hidePageNumbers(QPrintDialog& dialog) {
 void replaceDefaultMargins(QPrinter& printer) {
     QPrinter defaults{QPrinter::HighResolution};
     defaults.setPrinterName(printer.printerName());
-    const bool changed = printer.pageLayout().margins(QPageLayout::Millimeter) !=
-                         defaults.pageLayout().margins(QPageLayout::Millimeter);
-    if (!changed) printer.setPageMargins(paperMargins, QPageLayout::Millimeter);
+    QPageLayout layout = printer.pageLayout();
+    layout.setUnits(QPageLayout::Millimeter);
+    const bool changed = layout.margins() != defaults.pageLayout().margins(QPageLayout::Millimeter);
+    // If one were smaller than the printer's least, all four would be refused.
+    const QMarginsF margins = paperMargins | layout.minimumMargins();
+    if (!changed) printer.setPageMargins(margins, QPageLayout::Millimeter);
 }
 
 // On some platforms QPrintDialog proposes only the folder of the file to print to.

@@ -297,15 +297,15 @@ bool frmDisplay::moveFocus(const LblCover* from, int key) {
     return true;
 }
 
-// The chart is one stop in the tab order, at the cell that had the focus last; arrow keys move within it. A
-// click does not scroll, so that the cell stays below the pointer.
+// The chart is one stop in the tab order, at the cell that had the focus last; arrow keys move within it.
+// Only keys scroll: a clicked cell stays below the pointer, and a chart that is shown begins at its top.
 void frmDisplay::followFocus(LblCover* cover, Qt::FocusReason reason) {
     if (cover->hasFocus()) {
         for (LblCover* other : lblCover)
             other->setFocusPolicy(other == cover ? Qt::StrongFocus : Qt::ClickFocus);
-        if (reason != Qt::MouseFocusReason) scroll_->ensureWidgetVisible(cover, 0, 0);
         const bool byKey = reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason ||
                            reason == Qt::OtherFocusReason;
+        if (byKey) scroll_->ensureWidgetVisible(cover, 0, 0);
         keysLead_ = byKey || (keysLead_ && reason != Qt::MouseFocusReason);
     }
     showHint();

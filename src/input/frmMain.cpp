@@ -218,8 +218,7 @@ bool frmMain::passesCheck(const BirthEntry& birth) {
     const auto message = checkBirthEntry(birth);
     if (!message) return true;
     showMessage(this, QMessageBox::Information, latin(*message));
-    if (birth.name.empty()) txtName->setFocus();
-    if (!birth.name.empty()) cmbDate->setFocus();
+    birth.name.empty() ? txtName->setFocus() : cmbDate->setFocus();
     return false;
 }
 

@@ -11,11 +11,9 @@ std::optional<std::string_view> checkBirthEntry(const BirthEntry& entry) {
 std::u16string filterName(std::u16string_view text) {
     std::u16string accepted;
     for (const char16_t character : text) {
-        if (character >= u'a' && character <= u'z') {
-            accepted += static_cast<char16_t>(character - u'a' + u'A');
-        } else if ((character >= u'A' && character <= u'Z') || character == u' ') {
-            accepted += character;
-        }
+        const bool isSmall = character >= u'a' && character <= u'z';
+        const auto capital = static_cast<char16_t>(isSmall ? character - u'a' + u'A' : character);
+        if ((capital >= u'A' && capital <= u'Z') || capital == u' ') accepted += capital;
     }
     return accepted;
 }

@@ -122,7 +122,6 @@ void NameBox::dragEnterEvent(QDragEnterEvent* event) {
 
 // Text from elsewhere is copied even where a move is proposed: a move would lose what the filter removes.
 void NameBox::dropEvent(QDropEvent* event) {
-    if (event->source() == this) return QLineEdit::dropEvent(event);
     event->setDropAction(Qt::CopyAction);
     event->accept();
     QMimeData name;

@@ -17,8 +17,7 @@ bool CommandButton::event(QEvent* event) {
 }
 
 void PressArea::keyPressEvent(QKeyEvent* event) {
-    if (isEnter(event->key())) return click();
-    QAbstractButton::keyPressEvent(event);
+    isEnter(event->key()) ? click() : QAbstractButton::keyPressEvent(event);
 }
 
 QMenuBar* newMenuBar(QWidget* window) {

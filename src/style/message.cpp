@@ -13,8 +13,6 @@ bool entersText(const QKeyEvent& event) {
            !(event.modifiers() & (Qt::ControlModifier | Qt::AltModifier));
 }
 
-constexpr int frameButtons = 160;  // pixels
-
 QString defaultTitle() { return look::productName() + QStringLiteral(" Message"); }
 
 // A message box with plain text. As the event filter of its button, it discards printable characters: Space
@@ -26,8 +24,8 @@ class Message : public QMessageBox {
         setTextFormat(Qt::PlainText);
         setText(text);
         setAccessibleDescription(text);  // which a screen reader announces
-        // A QMessageBox does not leave enough room for its title in frames with an icon and three buttons.
-        const int titleWidth = fontMetrics().horizontalAdvance(title) + frameButtons;
+        // QMessageBox does not leave enough room for its title in frames with an icon and three buttons.
+        const int titleWidth = fontMetrics().horizontalAdvance(title) + 160;
         if (auto* grid = qobject_cast<QGridLayout*>(layout()))
             grid->addItem(new QSpacerItem{qMin(titleWidth, 400), 0}, grid->rowCount(), 0, 1, -1);
     }
