@@ -88,7 +88,7 @@ inline int withModals(const Action& action, const std::function<void(QWidget&)>&
         window->activateWindow();  // which some window managers leave out where windows change quickly
         await([=] { return window->isActiveWindow(); });
         try {
-            if (++count > 50) throw std::runtime_error{"This dialog stays open."};
+            if (++count > 10) throw std::runtime_error{"This dialog stays open."};
             act(*window);
         } catch (const std::exception& failure) {  // the toolkit lets none through
             ADD_FAILURE() << failure.what();
