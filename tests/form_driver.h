@@ -88,7 +88,7 @@ inline int withModals(const Action& action, const std::function<void(QWidget&)>&
         window->activateWindow();  // which some window managers leave out where windows change quickly
         await([=] { return window->isActiveWindow(); });
         try {
-            if (++count > 50) throw std::runtime_error{"This dialog stays open."};
+            if (++count > 10) throw std::runtime_error{"This dialog stays open."};
             act(*window);
         } catch (const std::exception& failure) {  // the toolkit lets none through
             ADD_FAILURE() << failure.what();
@@ -111,7 +111,7 @@ inline void withOne(const Action& action, const std::function<void(QWidget&)>& a
 
 // The messages that `action` brings up, as "icon|text" under the usual title, each closed by Escape. A file
 // dialog among them is given what is to be typed, one text after another, and is cancelled where it stays; a
-// question is answered by a key from there or by Enter, which means No.
+// question is answered by keys from there or by Enter, which means No.
 inline QString messagesOf(const Action& action, const std::vector<std::string>& typed = {}) {
     const QStringList icons{"none", "information", "warning", "critical", "question"};
     QStringList seen;

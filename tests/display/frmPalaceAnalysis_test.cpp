@@ -182,9 +182,9 @@ TEST_F(Analysis, IsReadInAnySizeAndPrintedInItsOwnWithinMarginsAsFarAsItIsSelect
         const auto top = [&] { return text.cursorForPosition({0, 2}).blockNumber(); };
         print();
         before = paper("-bbox");
-        const QString firstWord = before.section("<word", 1, 1);  // xMin="..." yMin="...", and so on
+        const QString firstWord = before.section("<word", 1, 1);  // its edges, each in quotation marks
         EXPECT_NEAR(firstWord.section('"', 1, 1).toDouble(), 20 * 72 / 25.4, 3);  // millimetres in points
-        EXPECT_NEAR(firstWord.section('"', 3, 3).toDouble(), 18 * 72 / 25.4, 3);
+        EXPECT_NEAR(firstWord.section('"', 7, 7).toDouble(), 18 * 72 / 25.4 + 9.5, 3) << "the line's foot";
         const double own = size();
         EXPECT_EQ(text.textCursor().position() + top(), 0) << "read from its top";
         text.setTextCursor(text.document()->find(words));
