@@ -100,8 +100,7 @@ void replaceDefaultMargins(QPrinter& printer) {
     layout.setUnits(QPageLayout::Millimeter);
     const bool changed = layout.margins() != defaults.pageLayout().margins(QPageLayout::Millimeter);
     // If one were smaller than the printer's least, all four would be refused.
-    const QMarginsF margins = paperMargins | layout.minimumMargins();
-    if (!changed) printer.setPageMargins(margins, QPageLayout::Millimeter);
+    if (!changed) printer.setPageMargins(paperMargins | layout.minimumMargins(), QPageLayout::Millimeter);
 }
 
 // On some platforms QPrintDialog proposes only the folder of the file to print to.

@@ -74,6 +74,7 @@ TEST_F(ChartWindow, IsAsLargeAsFitsAndScrollsOnlyWhereItCouldNotBeRead) {
     show({500, 900});
     EXPECT_EQ(find<QScrollArea>()->verticalScrollBar()->maximum(), 0) << "across only";
     show({500, 300});
+    EXPECT_EQ(find<QScrollArea>()->verticalScrollBar()->value(), 0) << "begins at its top";
     cover(6)->setFocus(Qt::TabFocusReason);
     EXPECT_EQ(cover(6)->visibleRegion().boundingRect(), cover(6)->rect()) << "the focus is in sight";
     auto* bar = find<QScrollArea>()->horizontalScrollBar();
