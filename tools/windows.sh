@@ -50,7 +50,7 @@ make_installer() {
 run_tests() {
     build windows
     wine build/windows/tests/core_tests.exe
-    tools/display.sh wine build/windows/tests/form_tests.exe \
+    tools/display.sh timeout 300 wine build/windows/tests/form_tests.exe \
         --gtest_filter="-$(cut -d' ' -f1 tests/not_on_windows.txt | paste -sd:)"
 }
 
