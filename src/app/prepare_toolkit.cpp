@@ -3,10 +3,12 @@
 #include <QEvent>
 #include <QFontDatabase>
 #include <QPixmapCache>
+#include <QThread>
 
 #include "display/chart_accessibility.h"
 #include "style/desktop_style.h"
 #include "style/look.h"
+#include "style/platform.h"
 
 namespace {
 
@@ -21,6 +23,9 @@ void useDesktopFont() {
 bool Toolkit::notify(QObject* receiver, QEvent* event) {
     if (presses_.discards(receiver, event)) return true;
     if (event->type() == QEvent::ThemeChange) useDesktopFont();
+    // Qt 6.4 under Wayland: another thread may still be in the frame callback of a window that has been
+    // hidden. A dialog is destroyed right after that.
+    if (event->type() == QEvent::Hide && receiver->isWindowType() && !placesAreKnown()) QThread::msleep(10);
     return QApplication::notify(receiver, event);
 }
 

@@ -36,9 +36,8 @@ bool PressFilter::discards(QObject* receiver, QEvent* event) {
     }
 }
 
-// Qt 6.8 still: isAutoRepeat() is often false under X11, which sends a release and a press at the same time,
-// and true on Windows for a key whose release went to a window that was closing. So a key counts as repeated
-// only if it was also the last one pressed.
+// Qt 6.8 still: isAutoRepeat() is often false under X11, which sends release and press at once, and true on
+// Windows after a release that a closing window got. So only the key that was pressed last can repeat.
 bool PressFilter::isRepeated(const QKeyEvent& key) {
     constexpr quint64 atOnce = 2;  // milliseconds
     const int code = key.key();

@@ -3,6 +3,7 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QLineEdit>
+#include <QRegularExpression>
 #include <QScreen>
 #include <QTemporaryFile>
 #include <climits>
@@ -41,7 +42,7 @@ QString obstacleTo(const Request& request, const QFileInfo& file) {
     if (lengthInFiles(file.fileName()) > qsizetype{longestFileName} ||
         lengthInFiles(file.absoluteFilePath()) >= PATH_MAX)
         return QStringLiteral("The name is too long.");
-    if (hasForbiddenCharacter(file.fileName()))
+    if (isWindows() && file.fileName().contains(QRegularExpression{QStringLiteral("[<>:\"|?*]")}))
         return QStringLiteral("A file name can't contain any of these characters:  < > : \" | ? *");
     // Tested by creating a file, because on Windows QFileInfo does not know all permissions.
     return QTemporaryFile{folder.filePath() + QStringLiteral("/XXXXXX")}.open()

@@ -3,7 +3,6 @@
 
 #include <QDir>
 #include <QGuiApplication>
-#include <QRegularExpression>
 
 // Whether the program knows the positions of its windows and of the pointer on the screen, and may activate a
 // window. Under Wayland only the compositor does.
@@ -16,9 +15,4 @@ inline bool isWindows() { return QDir::separator() == QLatin1Char('\\'); }
 // The length of a file name or path in the unit of the system's limits: UTF-16 on Windows, else bytes.
 inline qsizetype lengthInFiles(const QString& name) {
     return isWindows() ? name.size() : QFile::encodeName(name).size();
-}
-
-// Whether the file name has a character that Windows forbids; false on other systems.
-inline bool hasForbiddenCharacter(const QString& fileName) {
-    return isWindows() && fileName.contains(QRegularExpression{QStringLiteral("[<>:\"|?*]")});
 }
