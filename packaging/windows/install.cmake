@@ -41,9 +41,9 @@ set(CPACK_NSIS_EXTRA_INSTALL_COMMANDS [[
     !insertmacro Class PalaceLantern.Chart\shell\open\command '"$INSTDIR\palace-lantern.exe" "%1"'
     !insertmacro Class .plf PalaceLantern.Chart
     System::Call 'shell32::SHChangeNotify(i 0x08000000, i 0, p 0, p 0)']])
-# HKCR shows a key of HKCU as long as there is one, and else that of HKLM, which may be another program's: so it goes
-# first. Also what lies in the lock's folder, and what Qt's file dialogs remember.
+# HKCR goes first: without the person's own key in HKCU it would show one in HKLM, which may be another program's.
 string(CONCAT CPACK_NSIS_EXTRA_UNINSTALL_COMMANDS "${CPACK_NSIS_EXTRA_PREINSTALL_COMMANDS}\n" [[
+    ReadRegStr $START_MENU HKCU Software\Microsoft\Windows\CurrentVersion\Uninstall\PalaceLantern StartMenu
     ReadRegStr $0 HKCR .plf ""
     StrCmp $0 PalaceLantern.Chart 0 +5 ; unless another program has it by now
     DeleteRegValue HKCR .plf ""
