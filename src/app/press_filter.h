@@ -13,8 +13,7 @@ class PressFilter {
   public:
     // Whether the event must not be delivered: the auto-repeat of Enter, and of Space outside text boxes; a
     // key that has closed a list; the second click of a double click whose first went to another window,
-    // unless a popup gets it. Must run before event filters: Qt's accessibility bridge removes timestamps of
-    // keys.
+    // unless a popup gets it. Must run before event filters: Qt's accessibility bridge drops key timestamps.
     bool discards(QObject* receiver, QEvent* event);
 
   private:
