@@ -15,7 +15,6 @@
 #include "chart_text.h"
 #include "files/chart_file.h"
 #include "style/text.h"
-#include "system_limits.h"
 
 using Action = std::function<void()>;
 
@@ -182,6 +181,10 @@ struct Program : TemporaryFolder {
         // Window managers take their time to maximise; those that never do are not waited for.
         const QRect room = find("frmMdi")->screen()->availableGeometry();
         (void)QTest::qWaitFor([=] { return find("frmMdi")->frameGeometry() == room; }, 500);
+    }
+    // The messages that come with it.
+    QString savePicture(const std::string& name) const {
+        return messagesOf([] { choose("frmDisplay", "mnuSavejpg"); }, {in(name)});
     }
 
     Application application_;

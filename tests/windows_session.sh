@@ -1,21 +1,14 @@
 #!/bin/bash
 # Installs Palace Lantern under Wine, plays a person with a keyboard, and takes it away again. Each window has its
 # picture taken. To be run by tools/windows.sh, on a display of its own.
-set -euo pipefail
+set -Eeuo pipefail
+. tools/common.sh
 cd build/windows
+trap 'import -window root pictures/failed.png' ERR
 title="Palace Lantern" chart="Palace Lantern - MEI LING" path="C:/Ünïcode 星/Ünïcode 星" front=
 drive=$WINEPREFIX/drive_c data=$drive/users/$(id -un)/AppData
 program=$data/Local/Programs/$title
 
-wait_for() {
-    for _ in {1..300}; do
-        "$@" >/dev/null 2>&1 && return
-        sleep 0.1
-    done
-    import -window root pictures/failed.png
-    echo "waited in vain for: $*"
-    exit 1
-}
 comes_forward() {
     [ "$(xdotool getactivewindow)" != "$front" ] && [[ $(xdotool getactivewindow getwindowname) =~ ^"$1"\ ?$ ]]
 }
@@ -41,23 +34,14 @@ at() {
     done
 }
 
-# The pages of an installer, which are one window.
-at_pages() {
-    local page
-    for page in "${@:2}"; do
-        front=
-        at "$1" "$page" Return
-    done
-}
-
 rm -rf "$WINEPREFIX" pictures
 mkdir pictures
 wineboot -i
 mkdir "$drive/Ünïcode 星"
 wine "$(echo *-setup.exe)" &
-at_pages "$title Setup" welcome folder menu
+for page in welcome folder menu; do front= at "$title Setup" $page Return; done # which are one window
 wait_for test -e "$data/Roaming/Microsoft/Windows/Start Menu/Programs/$title/$title.lnk"
-at_pages "$title Setup" installed
+front= at "$title Setup" installed Return
 at "$title" empty =mei1
 at "$title Message" refused-key Return
 at "$title" - "= ling" Tab =30 Tab =February Tab =1988 Tab =9 Tab =30 Return
@@ -94,9 +78,9 @@ at "$chart" - alt+e
 wait_for_end
 
 wine "$program/Uninstall.exe" &
-at_pages "$title Uninstall" uninstall
+front= at "$title Uninstall" uninstall Return
 wait_for is_gone test -e "$program"
-at_pages "$title Uninstall" uninstalled
+front= at "$title Uninstall" uninstalled Return
 wineserver -w
 is_gone grep -iE 'palace|\.plf|QtProject' "$WINEPREFIX"/{user,system}.reg
 [ -z "$(find "$drive" -ipath '*palace*')" ]

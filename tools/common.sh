@@ -52,6 +52,16 @@ quietly() {
     fi
 }
 
+# Waits half a minute at most for a command to succeed.
+wait_for() {
+    for _ in {1..300}; do
+        "$@" >/dev/null 2>&1 && return
+        sleep 0.1
+    done
+    echo "Waited in vain for: $*" >&2
+    return 1
+}
+
 # Configures a preset and builds it, or only the named target of it.
 build() {
     quietly "Building ${2:-everything} in build/$1" \

@@ -2,6 +2,7 @@
 # Runs a command on a virtual display of its own, with a window manager, a session bus and, through that, the
 # accessibility bus. The display's size in pixels is taken from DISPLAY_SIZE. Ends as the command ends.
 set -euo pipefail
+. "$(dirname "$0")/common.sh"
 
 # In memory, as a person's runtime folder is.
 scratch=$(mktemp -d -p "$([ -w /dev/shm ] && echo /dev/shm || echo /tmp)")
@@ -18,18 +19,8 @@ clean_up() {
 }
 trap clean_up EXIT
 
-# Waits ten seconds at most for a command to succeed.
-wait_for() {
-    for _ in $(seq 100); do
-        "$@" >/dev/null 2>&1 && return
-        sleep 0.1
-    done
-    echo "$0: waited in vain for: $*" >&2
-    cat "$scratch/log" >&2
-    exit 1
-}
-
 # What the servers say is of no interest unless one of them fails.
+trap 'cat "$scratch/log" >&2' ERR
 Xvfb -displayfd 3 -screen 0 "${DISPLAY_SIZE:-1366x768}x24" -nolisten tcp -noreset \
     3>"$scratch/display" >>"$scratch/log" 2>&1 &
 started+=($!)
@@ -43,4 +34,5 @@ export DISPLAY DBUS_SESSION_BUS_ADDRESS
 openbox >>"$scratch/log" 2>&1 &
 started+=($!)
 wait_for xdotool get_num_desktops
+trap - ERR
 "$@"

@@ -2,6 +2,7 @@
 
 #include "display/frmDisplay.h"
 
+#include <cmath>
 #include <map>
 
 #include "display/chart_accessibility.h"
@@ -83,6 +84,47 @@ TEST_F(ChartWindow, IsAsLargeAsFitsAndScrollsOnlyWhereItCouldNotBeRead) {
     const int before = bar->value();
     QTest::mouseClick(cover(6), Qt::LeftButton, {}, {2, 2});
     EXPECT_EQ(bar->value(), before) << "what is pressed stays under the pointer";
+}
+
+// How near the picture in the file comes to the other: the peak signal-to-noise ratio in decibels.
+double likeness(const std::string& path, const QImage& other) {
+    const QImage right = other.convertToFormat(QImage::Format_RGB32);
+    const QImage left = QImage{path.c_str()}.copy(other.rect()).convertToFormat(QImage::Format_RGB32);
+    const int pixels = left.width() * left.height();
+    double error = 0;
+    for (int i = 0; i < 4 * pixels; ++i) error += std::pow(left.constBits()[i] - right.constBits()[i], 2);
+    return 10 * std::log10(255.0 * 255 * 3 * pixels / error);
+}
+
+using Picture = Program;
+
+TEST_F(Picture, ShowsTheChartAsOnTheScreenWithoutFocusAndPointer) {
+    showChart();
+    auto* client = find("frmDisplay")->findChild<QScrollArea*>();
+    QWidget *frame = find("frmMdi"), *cell = find("lblCover(4)");
+    const auto shownWithPointerAt = [&](QWidget* widget) {
+        QTest::mouseMove(widget, {2, 2});
+        await([&] { return cell->underMouse() == (widget == cell); });
+        return client->grab({{}, client->size() - QSize{0, 40}}).toImage();  // without the hint
+    };
+    const QImage plain = shownWithPointerAt(frame);
+    cell->setFocus();
+    const QImage focused = shownWithPointerAt(frame);
+    EXPECT_NE(focused, plain);
+    EXPECT_NE(shownWithPointerAt(cell), focused);
+    EXPECT_EQ(savePicture("chart"), "");
+    EXPECT_GE(likeness(in("chart.jpg"), plain), 45);
+    EXPECT_EQ(shownWithPointerAt(frame), focused);
+    frame->showNormal();
+    await([&] { return frame->width() < frame->screen()->size().width() * 9 / 10; });
+    const QWidget& whole = *client->widget();
+    for (const auto& [size, name] : {std::pair{QSize{500, 700}, "across.jpg"}, {{1000, 400}, "down.jpg"}}) {
+        frame->resize(size);
+        await([&, size = size] { return frame->size() == size; });
+        EXPECT_NE(whole.width() > client->width(), whole.height() > client->height()) << name;
+        EXPECT_EQ(savePicture(name), "");
+        EXPECT_EQ(QImage(in(name).c_str()).size(), whole.size()) << name;
+    }
 }
 
 using Labels = ChartWindow;

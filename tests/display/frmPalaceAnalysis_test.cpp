@@ -135,40 +135,6 @@ TEST_F(Analysis, OfAPalaceIsNotClosedByTheSecondHalfOfADoubleClick) {
     withOne(chooseQuickly, [](QWidget&) { choose("frmPalaceAnalysis", "mnuOk"); });
 }
 
-TEST_F(Analysis, OfAllPalacesIsSavedAndAsksBeforeItOverwrites) {
-    const std::string bytes = chartFileBytes(chart_.input), ours = in("chart"), big = in("<h1>BIG.plf");
-    const QString question = "question|%1 already exists.\nDo you want to replace it?";
-    const auto save = [&](const std::vector<std::string>& typed) {
-        find("RTB")->activateWindow();
-        await([] { return find("RTB")->hasFocus(); });
-        return messagesOf(pressing("Ctrl+S"), typed);
-    };
-    const auto expectRefusal = [&](const std::string& path, const QString& why) {
-        EXPECT_EQ(save({path}), why + "|stays") << path;
-    };
-    open([&](QTextEdit&) {
-        write("chart.txt", "old");
-        expectRefusal(ours, question.arg("chart.txt"));
-        EXPECT_EQ(read("chart.txt"), "old");
-        EXPECT_EQ(save({ours, "Tab Return"}), question.arg("chart.txt"));
-        EXPECT_EQ(read("chart.txt"), bytes);
-        std::filesystem::create_directories(in("sub/name.txt"));
-        for (const auto& typed : {std::vector{in("say \"hi\" now.plf")}, {big}, {in("sub"), "in sub"}})
-            EXPECT_EQ(save(typed), "");
-        EXPECT_EQ(names(), (QStringList{"<h1>BIG.plf", "chart.txt", "say \"hi\" now.plf", "sub"}));
-        EXPECT_EQ(read("sub/in sub.txt"), bytes);
-        expectRefusal(big, question.arg("<h1>BIG.plf"));
-        expectRefusal(in("none/chart"), "critical|The folder does not exist.");
-        expectRefusal(in("sub/name"), "critical|This is the name of a folder.");
-        expectRefusal(in(std::string(256, 'n')), "critical|The name is too long.");
-        std::filesystem::permissions(in("chart.txt"), std::filesystem::perms::owner_read);
-        inClosedFolder(folder_, [&] {
-            expectRefusal(in("chart.txt"), "critical|This file is read-only.");
-            expectRefusal(in("new"), "critical|Nothing can be saved in this folder.");
-        });
-    });
-}
-
 TEST_F(Analysis, IsReadInAnySizeAndPrintedInItsOwnWithinMarginsAsFarAsItIsSelected) {
     const QString words = "life after 50 years of age.";
     QString before;
