@@ -7,6 +7,7 @@ usage: a11y_session.py [PROGRAM]
 """
 
 import re
+import subprocess
 import sys
 
 from driver import ABOUT, ANALYSIS, CHART, GENERATE, TITLE, Program, expect, play, press, type_text, wait_until
@@ -60,6 +61,13 @@ def start_beside(program):
         message.find("label", "Application is already running")
         message.press_ok()
         second.wait_end()
+
+
+def start_wrongly(program):
+    """Starts with arguments that make no sense, which end at once"""
+    for wrong in ("--shout",), ("one.plf", "other.plf"):
+        code = subprocess.run([program.process.args[0], *wrong], timeout=9).returncode
+        expect(code == 1, f"a start with {wrong} ends with {code}")
 
 
 def be_refused(program):
@@ -130,5 +138,5 @@ def go_back_and_leave(program):
 
 if __name__ == "__main__":
     with Program(*sys.argv[1:]) as session:
-        play([ask_what_it_is, start_beside, be_refused, fill_in, read_chart, open_palace, save_all,
+        play([ask_what_it_is, start_beside, start_wrongly, be_refused, fill_in, read_chart, open_palace, save_all,
               go_back_and_leave], session)

@@ -28,9 +28,8 @@ TEST(Tradition, HasTheLunarMonthsOfTheUsualCalendarButForTheDepartures) {
         const int usual = chinese->get(UCAL_MONTH, error) + 1;  // in a leap month that of the month before
         LunarMonth = 0;
         FindLunarMonth(date);
-        const std::string departure =
-            ": " + std::to_string(LunarMonth) + " for " + std::to_string(usual) + " to ";
-        const std::string now = LunarMonth == usual ? ", " : departure;
+        std::string now = ": " + std::to_string(LunarMonth) + " for " + std::to_string(usual) + " to ";
+        if (LunarMonth == usual) now = ", ";
         if (now != std::exchange(before, now))
             found += std::to_string(date.day()) + '.' + std::to_string(date.month()) + '.' +
                      std::to_string(date.year()) + now;

@@ -17,23 +17,21 @@ constexpr std::pair<std::size_t, std::size_t> fixed[]{{0, 4},  {0, 5},   {1, 2},
                                                       {1, 9},  {1, 10},  {1, 11},  {10, 7}, {10, 8},
                                                       {10, 9}, {10, 10}, {10, 11}, {12, 6}};
 
-// A letter that changes shows in the text's own sum, the 32-bit FNV-1a.
+// A letter that changes shows in the text's own sum, the lower half of the 32-bit FNV-1a.
 TEST(Texts, KeepEachLetterWhereTheyAreFixed) {
     std::vector<std::string> texts{std::string{introText}, std::string{bodyPalaceText}};
     for (const auto& [heading, text] : palaceTexts) texts.push_back(std::string{heading}.append(text));
     for (const auto& [star, text] : starTexts) texts.emplace_back(text);
     for (const auto& [star, palace] : fixed) texts.emplace_back(starInPalaceTexts[star][palace]);
-    constexpr std::array<std::uint32_t, 41> sums{
-        0xea25deb6, 0x2c443783, 0xee1a3b7e, 0x7d032e8f, 0xb97025d5, 0x17144278, 0xc40d9492,
-        0xf57f55b1, 0x2c21eaab, 0x48e3b651, 0x4c19a956, 0x75360ac9, 0xafa31298, 0xd429349c,
-        0xeb476d40, 0x74db77e0, 0x359cb102, 0x68b328d3, 0xc495740b, 0x0b49e0d4, 0x01540a6c,
-        0x73e65156, 0x359652ae, 0xeee31188, 0xa7c5fe85, 0x23d43e61, 0x312435fb, 0x60292532,
-        0xfe7db4d0, 0x1835c439, 0x1fbd6c00, 0x23e5867c, 0xda3a33dc, 0x44d398e7, 0x0c1c965a,
-        0x1fbd6c00, 0x23e5867c, 0xda3a33dc, 0xe07eeffd, 0x41ad3487, 0xcd489acb};
+    constexpr std::array<std::uint16_t, 41> sums{
+        0xdeb6, 0x3783, 0x3b7e, 0x2e8f, 0x25d5, 0x4278, 0x9492, 0x55b1, 0xeaab, 0xb651, 0xa956,
+        0x0ac9, 0x1298, 0x349c, 0x6d40, 0x77e0, 0xb102, 0x28d3, 0x740b, 0xe0d4, 0x0a6c, 0x5156,
+        0x52ae, 0x1188, 0xfe85, 0x3e61, 0x35fb, 0x2532, 0xb4d0, 0xc439, 0x6c00, 0x867c, 0x33dc,
+        0x98e7, 0x965a, 0x6c00, 0x867c, 0x33dc, 0xeffd, 0x3487, 0x9acb};
     for (std::size_t i = 0; i < sums.size(); ++i) {
         std::uint32_t sum = 0x811c9dc5;
         for (const char letter : texts.at(i)) sum = (sum ^ static_cast<unsigned char>(letter)) * 0x01000193;
-        EXPECT_EQ(sum, sums[i]) << texts[i];
+        EXPECT_EQ(sum & 0xffff, sums[i]) << texts[i];
     }
 }
 
