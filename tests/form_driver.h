@@ -59,8 +59,6 @@ inline QString press(const QString& keys, QWidget* control = nullptr) {
     return names.join(" ").remove("lblCover");
 }
 
-inline QString textOf(const QString& label) { return find<QLabel>(label)->text(); }
-
 // Chooses an entry of a window's menus, which acts through the event loop.
 inline void choose(const QString& window, const QString& entry) {
     present(find(window)->findChild<QAction*>(entry), entry)->trigger();
@@ -102,15 +100,15 @@ inline int withModals(const Action& action, const std::function<void(QWidget&)>&
     return count;
 }
 
-// Expects that `action` brings up one modal window, soon or late, and runs `act` on it, which closes it.
+// Expects that `action` brings up one modal window, soon or late, and closes it if `act` has not done so.
 inline void withOne(const Action& action, const std::function<void(QWidget&)>& act = &QWidget::close,
                     const std::source_location& where = std::source_location::current()) {
-    EXPECT_EQ(withModals(action, act, 1), 1) << where.file_name() << ":" << where.line();
+    const auto actAndClose = [&](QWidget& window) { act(window), window.close(); };
+    EXPECT_EQ(withModals(action, actAndClose, 1), 1) << where.file_name() << ":" << where.line();
 }
 
-// The messages that `action` brings up, as "icon|text" under the usual title, each closed by Escape. A file
-// dialog among them is given what is to be typed, one text after another, and is cancelled where it stays; a
-// question is answered by keys from there or by Enter, which means No.
+// The messages that `action` brings up, as "icon|text" under the usual title. File dialogs take the next text
+// of `typed`, questions the next keys or else Enter, which means No; all the rest is closed by Escape.
 inline QString messagesOf(const Action& action, const std::vector<std::string>& typed = {}) {
     const QStringList icons{"none", "information", "warning", "critical", "question"};
     QStringList seen;

@@ -20,7 +20,6 @@ wait_for_end() { wait_for is_gone xdotool search --name "^$title" && front=; }
 # Waits until the next window, which has that title, is in front; takes the picture of that name, unless it is "-",
 # and then presses the keys. What begins with "=" is typed, with "+" pasted: Wine types no letters of all scripts.
 at() {
-    local key
     wait_for comes_forward "$1"
     front=$(xdotool getactivewindow)
     wait_for stands_still
@@ -35,9 +34,8 @@ at() {
 }
 
 rm -rf "$WINEPREFIX" pictures
-mkdir pictures
 wineboot -i
-mkdir "$drive/Ünïcode 星"
+mkdir pictures "$drive/Ünïcode 星"
 wine "$(echo *-setup.exe)" &
 for page in welcome folder menu; do front= at "$title Setup" $page Return; done # which are one window
 wait_for test -e "$data/Roaming/Microsoft/Windows/Start Menu/Programs/$title/$title.lnk"
@@ -60,7 +58,6 @@ at "Save as JPG" save-picture "+${path%/*}/星.jpg" Return
 at "$chart" - alt+b
 at "$title" back alt+e
 wait_for_end
-test -s "$drive${path#C:}.plf"
 identify "$drive/Ünïcode 星/星.jpg" | grep JPEG
 tail -c 6 "$drive${path#C:}.pdf" | grep %%EOF
 

@@ -98,7 +98,7 @@ TEST_F(Program, GoesBackToAnEmptyFormAndCastsTheNextChartOnFreshCells) {
 TEST_F(Program, DoesOneThingAtATime) {
     enter("A 1 January 1970 0 0");
     for (int time = 0; time < 2; ++time) find<QAbstractButton>("cmdGenerateChart")->click();
-    EXPECT_EQ(textOf("lblDateOfBirth"), "January/2/1970");
+    EXPECT_EQ(find<QLabel>("lblDateOfBirth")->text(), "January/2/1970");
     const auto pressAll = [] {
         for (const char* name : {"cmdShowAll", "cmdSavePicture", "lblCover(3)", "cmdBack"}) {
             QTimer::singleShot(0, find<QAbstractButton>(name), &QAbstractButton::click);  // late, if at all
@@ -106,12 +106,11 @@ TEST_F(Program, DoesOneThingAtATime) {
         }
         choose("frmDisplay", "mnuShowAll");
     };
-    const auto cancel = [&](QWidget& dialog) {
-        pressAll();
-        EXPECT_EQ(QApplication::activeModalWidget(), &dialog);
-        press("Escape", &dialog);
-    };
-    for (auto* opener : {"cmdShowAll", "cmdSavePicture", "lblCover(3)"}) withOne(clicking(opener), cancel);
+    for (auto* opener : {"cmdShowAll", "cmdSavePicture", "lblCover(3)"})
+        withOne(clicking(opener), [&](QWidget& dialog) {
+            pressAll();
+            EXPECT_EQ(QApplication::activeModalWidget(), &dialog);
+        });
     click("cmdBack");
     EXPECT_EQ(messagesOf(pressAll), "");
 }
@@ -125,7 +124,6 @@ TEST_F(Program, EntersTheChartByOneTabWalksItByArrowsAndHearsItsKeysOnTheStrip) 
     QTest::keyClick(find("frmMdi")->windowHandle(), Qt::Key_H, Qt::AltModifier);
     EXPECT_EQ(find<QMenu>("mnuHelp"), QApplication::activePopupWidget());
     find<QMenu>("mnuHelp")->close();
-    EXPECT_EQ(press("Tab"), "(5)");
     withOne([] { press("Return", find("cmdShowAll")); });
 }
 
@@ -143,10 +141,11 @@ TEST_F(Program, EndsFromEverywhereButByNoOtherKey) {
         if (way >= 3) {
             showChart();
             press("Escape Ctrl+W Ctrl+F4", find("lblCover(3)"));
-            QTest::mouseMove(find<QMdiSubWindow>(), {12, 12});
             QTest::mouseDClick(find<QMdiSubWindow>(), Qt::LeftButton, {}, {12, 12});  // its icon
         }
         QTimer::singleShot(0, ways[way]);
+        const QObject patience;
+        QTimer::singleShot(9000, &patience, [] { QCoreApplication::exit(1); });
         EXPECT_EQ(QApplication::exec(), 0) << "way " << way;
         for (const QWidget* window : QApplication::topLevelWidgets()) EXPECT_FALSE(window->isVisible());
     }
@@ -178,13 +177,10 @@ TEST_F(Program, OpensThePageOfEachEntryFromEachWindow) {
     expectPage("/index.html", [] { press("Return", find("lblBanner")); });
     withOne(clicking("lblCover(2)"), lookUpAndClose);
     write("fail", "");
+    const QString told = "No browser could be opened. You find the page here:\n" + pages + "/index.html";
     for (const std::string& way : {in("none"), folder_}) {  // no opener, and one that fails
         qputenv("PATH", way.c_str());
-        withOne(clicking("lblBanner"), [&](QWidget& message) {
-            const QString what = "No browser could be opened. You find the page here:\n";
-            EXPECT_EQ(dynamic_cast<QMessageBox&>(message).text(), what + pages + "/index.html");
-            message.close();
-        });
+        withOne(clicking("lblBanner"), [&](QWidget&) { EXPECT_EQ(find<QMessageBox>()->text(), told); });
     }
     qputenv("PATH", path);
 }

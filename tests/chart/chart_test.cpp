@@ -33,9 +33,9 @@ constexpr std::pair<const char*, int> bureaus[]{
     {"Metal", 4}, {"Water", 2}, {"Fire", 6}, {"Earth", 5}, {"Wood", 3}};
 
 // The year's stem goes round in tens, the Five Tigers count the palace stems from it, and the bureau is the
-// sounding element of the Life Palace: its pair of stems and its pair of branches added up. Zi Wei stands at
-// the smallest number of bureaus that reaches the day, counted from Yin, and then goes by the days beyond:
-// forwards where even and backwards where odd; but Earth's day 26 departs on purpose.
+// sounding element of the Life Palace: its pair of stems and its pair of branches added up. Zi Wei stands as
+// many cells from Yin as bureaus reach the day, and on by the days beyond: forwards where even and backwards
+// where odd; but Earth's day 26 departs on purpose.
 void compare(const ChartModel& chart, int day) {
     const auto digit = static_cast<std::size_t>(chart.yearDigit), yearStem = (digit + 6) % 10;
     const auto stemOf = [=](CellIndex cell) { return (yearStem * 2 + 2 + cell.index()) % 10; };
@@ -67,8 +67,6 @@ TEST(Chart, AgreesWithTheHandChart) {
     for (const CellIndex cell : allCells) EXPECT_EQ(cellLine(chart, cell), handCells[cell.index()]);
     for (const auto& [star, field] : starTable)
         EXPECT_TRUE(chart.cell(chart.cellOf(star)).holds(star)) << field.text.text();
-    const auto& [name, year, month, day] = cast(birth("29.2.1992", 0, 0)).input;
-    EXPECT_TRUE(name == u"JOHN SMITH" && year == 1992 && month == "February" && day == 29) << "as entered";
 }
 
 TEST(Chart, KeepsFlagsUntilTheCellsAreLoadedAndFindsMarkedBranchesOnlyOnce) {

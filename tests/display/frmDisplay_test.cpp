@@ -49,7 +49,9 @@ TEST_F(ChartWindow, ShowsTheWholeChartAndTellsItInSentences) {
 
 TEST_F(ChartWindow, HintsAtWhatThePointerIsOnOrTheKeysLedTo) {
     show();
-    const auto expectHint = [](const char* hint) { await([=] { return textOf("lblCaption") == hint; }); };
+    const auto expectHint = [](const char* hint) {
+        await([=] { return find<QLabel>("lblCaption")->text() == hint; });
+    };
     const char* onGround = "Hold Your Mouse Button On The Palace";
     const char* onCell = "Click To Know More Abut This Palace And Stars";
     QTest::mouseMove(cover(4));
@@ -105,6 +107,7 @@ TEST_F(Picture, ShowsTheChartAsOnTheScreenWithoutFocusAndPointer) {
     EXPECT_NE(shownWithPointerAt(cell), focused);
     EXPECT_EQ(savePicture("chart"), "");
     const QImage picture = QImage{in("chart.jpg").c_str()}.copy(plain.rect()).convertToFormat(plain.format());
+    ASSERT_FALSE(picture.isNull());
     double squares = 0;
     for (int i = 0; i < plain.sizeInBytes(); ++i)
         squares += std::pow(picture.constBits()[i] - plain.constBits()[i], 2);
@@ -162,24 +165,6 @@ TEST_F(Labels, CanBeReadOnALightChartEvenOnADarkDesktop) {
     const frmPalaceAnalysis analysis{AnalysisKind::onePalace, {}, {}, display_.get()};
     EXPECT_EQ(analysis.findChild<QTextEdit*>()->palette().color(QPalette::Base), look::paper);
     QApplication::setPalette({});
-}
-
-TEST(Look, MakesSelectionsAndTitlesLegible) {
-    EXPECT_NEAR(look::contrast(QColor{0x76, 0x76, 0x76}, Qt::white), 4.54, 0.01);
-    for (auto [ground, letters] : {std::pair{QColor{53, 132, 228}, Qt::white}, {Qt::cyan, Qt::black}}) {
-        QPalette desktop{ground};
-        desktop.setColor(QPalette::Highlight, ground);
-        desktop.setColor(QPalette::HighlightedText, letters);
-        desktop.setColor(QPalette::Text, Qt::white);
-        const QPalette title = look::legibleTitle(desktop);
-        for (const auto role : {QPalette::Highlight, QPalette::Text})
-            EXPECT_GE(look::contrast(title.color(role), Qt::white), 4.5);
-        EXPECT_EQ(title.color(QPalette::HighlightedText), QColor{Qt::white});
-        QApplication::style()->polish(desktop);  // as for all windows
-        const QColor behind = desktop.color(QPalette::Highlight);
-        EXPECT_GE(look::contrast(behind, desktop.color(QPalette::HighlightedText)), 4.5);
-        EXPECT_EQ(behind == ground, ground == Qt::cyan) << "only that one is legible as it is";
-    }
 }
 
 }  // namespace

@@ -40,12 +40,9 @@ void sendKeyAt(quint64 time, QEvent::Type type, QWidget& window, Qt::Key key = Q
 struct Analysis : Program {
     Analysis() { showChart(); }
 
-    // Opens the analysis of all palaces and closes it when `act` is done.
+    // Runs `act` on the text of the analysis of all palaces.
     static void open(const std::function<void(QTextEdit&)>& act) {
-        withOne(clicking("cmdShowAll"), [&](QWidget& window) {
-            act(*find<QTextEdit>("RTB"));
-            window.close();
-        });
+        withOne(clicking("cmdShowAll"), [&](QWidget&) { act(*find<QTextEdit>("RTB")); });
     }
 
     // Prints through the dialog to a file.
@@ -53,7 +50,6 @@ struct Analysis : Program {
         withOne(clicking("cmdPrint"), [&](QWidget& window) {
             auto& dialog = dynamic_cast<QPrintDialog&>(window);
             const bool selected = find<QTextEdit>("RTB")->textCursor().hasSelection();
-            EXPECT_EQ(dialog.printRange() == QPrintDialog::Selection, selected);
             EXPECT_NE(find("printAll")->isEnabled(), selected);
             EXPECT_EQ(QFileInfo{find<QLineEdit>("filename")->text()}.fileName(), "Palace Lantern.pdf");
             find<QComboBox>("printers")->setCurrentText("Print to File (PDF)");
@@ -74,7 +70,6 @@ struct Analysis : Program {
         return QString::fromStdString(read("paper.txt")).section("<doc>", -1);
     }
 
-    const ChartModel chart_ = cast(handBirth);
     const QString pdf_ = in("paper.pdf").c_str();
 };
 
@@ -96,7 +91,7 @@ TEST_F(Analysis, OfAPalaceIsOpenedOnceByAKeyThatIsHeldDownAndReadUntilTheNextPre
         };
         withOne(pressAndHold, [&, time = time, seen = seen](QWidget& analysis) {
             hold(analysis);
-            expectRuns(*find<QTextEdit>("RTB"), composePalaceAnalysis(chart_, 7));
+            expectRuns(*find<QTextEdit>("RTB"), composePalaceAnalysis(cast(handBirth), 7));
             EXPECT_TRUE(find<QTextEdit>("RTB")->isReadOnly());
             EXPECT_FALSE(find("cmdSave")->isVisible() || find("cmdPrint")->isVisible());
             press("Ctrl+S Ctrl+P");
@@ -116,23 +111,23 @@ TEST_F(Analysis, OfAPalaceIsNotClosedByTheSecondHalfOfADoubleClick) {
             sendAt(time, *control.window(),
                    QMouseEvent{type, inWindow, QPointF{600, 400}, Qt::LeftButton, held, Qt::NoModifier});
     };
-    for (const quint64 pause : {100U, 2000U}) {
-        const auto clickAgain = [&](QWidget& analysis) {
+    const auto clickPalaceAt = [&](quint64 time) { return [=] { clickAt(time, *find("lblCover(7)")); }; };
+    for (const quint64 pause : {100U, 2000U})
+        withOne(clickPalaceAt(1000), [&](QWidget& analysis) {
             clickAt(1000 + pause, *find("cmdOk"));
             EXPECT_EQ(analysis.isVisible(), pause == 100);
-            analysis.close();
-        };
-        withOne([&] { clickAt(1000, *find("lblCover(7)")); }, clickAgain);
-    }
-    const Action clickBelow = [&] { clickAt(3100, *find("lblCover(7)")); };  // soon after the last cmdOk
-    EXPECT_EQ(withModals(clickBelow, &QWidget::close), 0) << "nor does it open another as one closes";
+        });
+    EXPECT_EQ(messagesOf(clickPalaceAt(3100)), "") << "soon after the last cmdOk";
     const auto chooseQuickly = [&] {
         // Since Qt 6.8, a menu takes a click only away from where the pointer was as it opened.
         QTest::mouseMove(find("frmMdi")->windowHandle(), {9, 9});
         clickAt(5000, *find("frmDisplay")->findChild<QMenuBar*>());
         clickAt(5100, *find<QMenu>("mnuFile"));  // goes on with its title; its first entry is Show All
     };
-    withOne(chooseQuickly, [](QWidget&) { choose("frmPalaceAnalysis", "mnuOk"); });
+    withOne(chooseQuickly, [](QWidget& analysis) {
+        choose("frmPalaceAnalysis", "mnuOk");
+        EXPECT_FALSE(analysis.isVisible());
+    });
 }
 
 TEST_F(Analysis, IsReadInAnySizeAndPrintedInItsOwnWithinMarginsAsFarAsItIsSelected) {
@@ -162,8 +157,8 @@ TEST_F(Analysis, IsReadInAnySizeAndPrintedInItsOwnWithinMarginsAsFarAsItIsSelect
         EXPECT_EQ(text.textCursor().selectedText(), words);
         EXPECT_DOUBLE_EQ(turned(3, -40), own) << "by a touchpad";
         EXPECT_DOUBLE_EQ(turned(4, -120), own * 0.8) << "the least";
-        EXPECT_DOUBLE_EQ(turned(8, 120), own * 2.5);
-        EXPECT_DOUBLE_EQ(turned(1, 120, Qt::NoModifier), own * 2.5);
+        EXPECT_DOUBLE_EQ(turned(8, 120), own * 2.5) << "the most";
+        turned(1, -120, Qt::NoModifier);
         press("Ctrl+0 Ctrl+-", &text);
         EXPECT_DOUBLE_EQ(size(), own * 0.9);
         for (int step = 0; step < 12; ++step) press("Ctrl++", &text);
@@ -171,7 +166,7 @@ TEST_F(Analysis, IsReadInAnySizeAndPrintedInItsOwnWithinMarginsAsFarAsItIsSelect
     });
     open([&](QTextEdit& text) {
         EXPECT_EQ(text.window()->size(), QSize(510, 440)) << "as a person left it";
-        expectRuns(text, composeAllPalaces(chart_), 3);
+        expectRuns(text, composeAllPalaces(cast(handBirth)), 3);
         print();
         EXPECT_TRUE(paper("-bbox") == before) << "also the paper is larger";
         text.setTextCursor(text.document()->find(words));

@@ -5,12 +5,12 @@
 #include <QAccessible>
 
 #include "form_driver.h"
+#include "style/look.h"
 
 namespace {
 
 struct InputForm : Program {
-    // Drags to the name box, with Shift as if to be moved away, drops what may be dropped there, and returns
-    // whether it may.
+    // Drags to the name box, with Shift as if to be moved away, and drops it there. Returns whether it may.
     bool drop(const QMimeData& dragged) {
         const Qt::DropActions offered = Qt::CopyAction | Qt::MoveAction;
         QDragEnterEvent enter{{5, 5}, offered, &dragged, Qt::LeftButton, Qt::ShiftModifier};
@@ -106,8 +106,7 @@ TEST_F(InputForm, FiltersWhatComesInOnEveryWayAndLeavesWhatIsThere) {
         QGuiApplication::clipboard()->setText(text);
         QGuiApplication::clipboard()->setText("x2", QClipboard::Selection);
         setState(before);
-        EXPECT_EQ(messagesOf(way), told ? "information|Please Enter Only Letters" : "")
-            << before.toStdString();
+        EXPECT_EQ(messagesOf(way), told ? "information|Please Enter Only Letters" : "");
         EXPECT_EQ(state(), after) << before.toStdString() << text.toStdString();
         form_->activateWindow();
         await([this] { return name_->hasFocus(); });
@@ -120,11 +119,11 @@ TEST_F(InputForm, KeepsFocusAndHistoryThroughMenusAndMessages) {
     QTest::keyClick(keyboard, Qt::Key_F, Qt::AltModifier);
     press("Escape", present(QApplication::activePopupWidget(), "menu"));
     QTest::keyClick(keyboard, Qt::Key_B, Qt::ShiftModifier);
-    EXPECT_EQ(name_->text(), "AB");
     withOne(pressing("-"), [](QWidget& message) {
         for (const Qt::Key key : {Qt::Key_Space, Qt::Key_O}) QTest::keyClick(message.windowHandle(), key);
         EXPECT_TRUE(message.isVisible());
         QTest::keyClick(message.windowHandle(), Qt::Key_Return);
+        EXPECT_FALSE(message.isVisible());
     });
     await([this] { return name_->hasFocus(); });
     press("C Ctrl+Z Ctrl+Z Ctrl+Z");
@@ -136,10 +135,11 @@ TEST_F(InputForm, KeepsFocusAndHistoryThroughMenusAndMessages) {
     EXPECT_EQ(name_->text(), "   ");
 }
 
-TEST_F(InputForm, ShowsWhereTheFocusIsOnLightAndDarkDesktops) {
+TEST_F(InputForm, ShowsFocusSelectionAndTitleOnLightAndDarkDesktops) {
+    EXPECT_NEAR(look::contrast(QColor{0x76, 0x76, 0x76}, Qt::white), 4.54, 0.01);
     const QColor light{239, 239, 239}, dark{53, 53, 53}, red{140, 0, 0}, yellow{255, 230, 0};
-    const QColor white = Qt::white, black = Qt::black, blue{0, 60, 160};
-    const std::array<QColor, 4> desktops[]{{light, light.darker(120), black, red},
+    const QColor white = Qt::white, blue{0, 60, 160};
+    const std::array<QColor, 4> desktops[]{{light, light.darker(120), white, red},
                                            {dark, dark.darker(120), white, yellow},
                                            {light, blue, white, blue}};
     for (const auto& [ground, highlight, letters, expected] : desktops) {
@@ -156,6 +156,12 @@ TEST_F(InputForm, ShowsWhereTheFocusIsOnLightAndDarkDesktops) {
             find(name)->setFocus();
             EXPECT_EQ(edge().name(), expected.name()) << name << " on " << ground.red();
         }
+        for (const auto role : {QPalette::Highlight, QPalette::Text})
+            EXPECT_GE(look::contrast(look::legibleTitle(palette).color(role), white), 4.5);
+        QApplication::style()->polish(palette);  // as for all windows
+        const QColor behind = palette.color(QPalette::Highlight);
+        EXPECT_GE(look::contrast(behind, palette.color(QPalette::HighlightedText)), 4.5);
+        EXPECT_EQ(behind != highlight, expected == red) << "only that one is illegible as it is";
     }
     QApplication::setPalette({});
 }
@@ -170,7 +176,6 @@ TEST_F(InputForm, CastsOnEnterAndMovesTheListsAtMidnight) {
     EXPECT_TRUE(form_->isVisible()) << "it only closes the list";
     press("Return", find("cmbMinute"));
     EXPECT_EQ(entered(), " A 1 January 1999 0 0");
-    EXPECT_EQ(textOf("lblDateOfBirth"), "January/1/1999");
 }
 
 TEST_F(InputForm, OpensChartFilesAndIsLeftAsItIsByOthers) {
@@ -192,10 +197,8 @@ TEST_F(InputForm, OpensChartFilesAndIsLeftAsItIsByOthers) {
         EXPECT_EQ(form_->isHidden(), messages.isEmpty() && after != old) << after.toStdString();
         if (form_->isHidden()) click("cmdBack");
     }
-    withOne(pressing("Ctrl+O"), [](QWidget& window) {
-        EXPECT_EQ(dynamic_cast<QFileDialog&>(window).nameFilters(), QStringList{"Palace Lantern (*.plf)"});
-        window.close();
-    });
+    const QStringList ours{"Palace Lantern (*.plf)"};
+    withOne(pressing("Ctrl+O"), [&](QWidget&) { EXPECT_EQ(find<QFileDialog>()->nameFilters(), ours); });
 }
 
 TEST_F(InputForm, TakesOneDroppedChartFileAndRefusesOtherFiles) {
@@ -209,10 +212,7 @@ TEST_F(InputForm, TakesOneDroppedChartFileAndRefusesOtherFiles) {
     };
     enter(" 1 January 2001 13 30");
     EXPECT_TRUE(dropAll({chart}));  // and not opened, because a message comes first
-    withOne(clicking("cmdGenerateChart"), [&](QWidget& message) {
-        EXPECT_FALSE(dropAll({chart}));
-        message.close();
-    });
+    withOne(clicking("cmdGenerateChart"), [&](QWidget&) { EXPECT_FALSE(dropAll({chart})); });
     for (const QList<QUrl>& urls : {QList<QUrl>{{"file:///x.txt"}}, {chart, chart}, {{"https://x/x.plf"}}})
         EXPECT_EQ(messagesOf([&] { EXPECT_FALSE(dropAll(urls)); }), "");
     EXPECT_EQ(entered(), " 1 January 2001 13 30");
@@ -232,7 +232,6 @@ TEST_F(TwoScreens, HoldEachWindowWhereThePersonIs) {
             EXPECT_EQ(window.screen(), screens[screen]) << to;
             const QRect place{window.pos(), window.size().expandedTo(window.minimumSize())};
             EXPECT_TRUE(screens[screen]->availableGeometry().contains(place)) << to;
-            if (window.isModal()) window.close();
         };
         form->move(screens[to]->geometry().center() - QPoint{100, 100});
         form->hide();

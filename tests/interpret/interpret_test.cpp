@@ -35,11 +35,7 @@ TEST(Texts, KeepEachLetterWhereTheyAreFixed) {
     }
 }
 
-TEST(Texts, StandWithTheirStarsAndPalacesAndAreDistinct) {
-    for (const auto& [star, text] : starTexts) {
-        const std::string_view name = fieldOf(star).text.text();
-        EXPECT_EQ(text.find(name) == text.npos, name == "Tian Tong");  // which says Tiang Tong
-    }
+TEST(Texts, StandWithTheirPalacesAndAreDistinct) {
     std::set<std::string_view> texts;
     std::array<std::string, palaceNames.size()> inPalaces;
     for (const auto& star : starInPalaceTexts) {
