@@ -20,7 +20,6 @@ using Action = std::function<void()>;
 
 inline void PrintTo(const QString& text, std::ostream* out) { *out << '"' << text.toStdString() << '"'; }
 
-// What the test can't go on without.
 template <class Object>
 Object* present(Object* object, const QString& name) {
     if (object == nullptr) throw std::runtime_error{"There is no \"" + name.toStdString() + "\"."};

@@ -7,7 +7,6 @@ cd build/windows
 trap 'import -window root pictures/failed.png' ERR
 title="Palace Lantern" chart="Palace Lantern - MEI LING" path="C:/Ünïcode 星/Ünïcode 星" front=
 drive=$WINEPREFIX/drive_c data=$drive/users/$(id -un)/AppData
-program=$data/Local/Programs/$title
 
 comes_forward() {
     [ "$(xdotool getactivewindow)" != "$front" ] && [[ $(xdotool getactivewindow getwindowname) =~ ^"$1"\ ?$ ]]
@@ -74,9 +73,9 @@ at "About $title" about Escape
 at "$chart" - alt+e
 wait_for_end
 
-wine "$program/Uninstall.exe" &
+wine "$data/Local/Programs/$title/Uninstall.exe" &
 front= at "$title Uninstall" uninstall Return
-wait_for is_gone test -e "$program"
+wait_for is_gone test -e "$data/Local/Programs/$title"
 front= at "$title Uninstall" uninstalled Return
 wineserver -w
 is_gone grep -iE 'palace|\.plf|QtProject' "$WINEPREFIX"/{user,system}.reg

@@ -22,20 +22,6 @@ TEST_F(Start, IsOfOneProgramAlsoWithoutARuntimeFolder) {
     qputenv("XDG_RUNTIME_DIR", before);
 }
 
-TEST_F(Start, NeedsTheConverterAsAFile) {
-    const QString self = QCoreApplication::applicationFilePath(), copy = in("copy").c_str();
-    if (!self.endsWith("/copy")) {  // which has no converter beside it
-        EXPECT_TRUE(requiredFileIsPresent() && QFile::copy(self, copy));
-        EXPECT_EQ(QProcess::execute(copy, {"--gtest_filter=Start.NeedsTheConverterAsAFile"}), 0);
-        return;
-    }
-    for (int time = 0; time < 2; ++time) {
-        EXPECT_EQ(messagesOf([] { EXPECT_FALSE(requiredFileIsPresent()); }),
-                  "critical|Required File Is Missing\nPlease Reinstall Software");
-        EXPECT_EQ(QDir{}.mkdir(converterPath()), time == 0);
-    }
-}
-
 TEST_F(Start, TakesOneChartFile) {
     write("chart.plf", chartFileBytes({u"JOHN SMITH", 1985, "March", 5}));
     write("empty.plf", "");

@@ -45,8 +45,7 @@ struct Analysis : Program {
         withOne(clicking("cmdShowAll"), [&](QWidget&) { act(*find<QTextEdit>("RTB")); });
     }
 
-    // Prints through the dialog to a file.
-    void print() const {
+    void printToFile() const {
         withOne(clicking("cmdPrint"), [&](QWidget& window) {
             auto& dialog = dynamic_cast<QPrintDialog&>(window);
             const bool selected = find<QTextEdit>("RTB")->textCursor().hasSelection();
@@ -141,7 +140,7 @@ TEST_F(Analysis, IsReadInAnySizeAndPrintedInItsOwnWithinMarginsAsFarAsItIsSelect
             return size();
         };
         const auto top = [&] { return text.cursorForPosition({0, 2}).blockNumber(); };
-        print();
+        printToFile();
         before = paper("-bbox");
         const QString firstWord = before.section("<word", 1, 1);  // its edges, each in quotation marks
         EXPECT_NEAR(firstWord.section('"', 1, 1).toDouble(), 20 * 72 / 25.4, 3);  // millimetres in points
@@ -167,10 +166,10 @@ TEST_F(Analysis, IsReadInAnySizeAndPrintedInItsOwnWithinMarginsAsFarAsItIsSelect
     open([&](QTextEdit& text) {
         EXPECT_EQ(text.window()->size(), QSize(510, 440)) << "as a person left it";
         expectRuns(text, composeAllPalaces(cast(handBirth)), 3);
-        print();
+        printToFile();
         EXPECT_TRUE(paper("-bbox") == before) << "also the paper is larger";
         text.setTextCursor(text.document()->find(words));
-        print();
+        printToFile();
         EXPECT_EQ(paper().simplified(), words);
     });
 }

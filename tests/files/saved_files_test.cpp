@@ -100,7 +100,6 @@ TEST_F(Saving, OfAPictureOverwritesNothingAndLeavesNothingBeside) {
     EXPECT_EQ(names().join(" ").toStdString(),
               "chart.bmp chart.jpg chart.png link_001.jpg " + counted + " " + longest);
     EXPECT_EQ(read("chart.bmp"), "the person's own");
-    EXPECT_TRUE(read("chart.png").starts_with("\xFF\xD8"));
     for (int counter = 1001; counter <= 1999; ++counter)
         write("chart_" + std::to_string(counter).substr(1) + ".jpg", "");
     EXPECT_EQ(savePicture("chart"),
