@@ -7,6 +7,7 @@ usage: a11y_session.py [PROGRAM]
 """
 
 import re
+import shutil
 import subprocess
 import sys
 
@@ -61,6 +62,17 @@ def start_beside(program):
         message.find("label", "Application is already running")
         message.press_ok()
         second.wait_end()
+
+
+def start_incomplete(program):
+    """A start with no converter but a folder of that name, which says what is missing, and ends"""
+    path = shutil.copy(program.process.args[0], program.home)
+    program.home.joinpath("Bmp2Jpeg.dll").mkdir()
+    with Program(path) as incomplete:
+        message = incomplete.message()
+        message.find("label", "Required File Is Missing\nPlease Reinstall Software")
+        message.press_ok()
+        wait_until(lambda: incomplete.process.poll() == 1, "the program to end with code 1")
 
 
 def start_wrongly(program):
@@ -138,5 +150,5 @@ def go_back_and_leave(program):
 
 if __name__ == "__main__":
     with Program(*sys.argv[1:]) as session:
-        play([ask_what_it_is, start_beside, start_wrongly, be_refused, fill_in, read_chart, open_palace, save_all,
-              go_back_and_leave], session)
+        play([ask_what_it_is, start_beside, start_incomplete, start_wrongly, be_refused, fill_in, read_chart,
+              open_palace, save_all, go_back_and_leave], session)
