@@ -1,6 +1,5 @@
 #!/bin/bash
-# Installs Palace Lantern under Wine, plays a person with a keyboard, and takes it away again. Each window has its
-# picture taken. To be run by tools/windows.sh, on a display of its own.
+# For windows.sh: installs, plays a person with a keyboard, takes a picture of each window, and takes all away again.
 set -Eeuo pipefail
 . tools/common.sh
 cd build/windows

@@ -62,7 +62,7 @@ TEST_F(Saving, OfAChartAsksBeforeItOverwritesAndRefusesWhatCannotBe) {
     const auto expectRefusal = [&](const std::string& path, const QString& why) {
         EXPECT_EQ(save({path}), why + "|stays") << path;
     };
-    showChart();
+    showChart(" JOHN SMITH  5 March 1985 13 1");
     withOne(clicking("cmdShowAll"), [&](QWidget&) {
         write("chart.txt", "old");
         expectRefusal(ours, question.arg("chart.txt"));
@@ -92,14 +92,15 @@ TEST_F(Saving, OfAPictureOverwritesNothingAndLeavesNothingBeside) {
     const std::string longest = std::string(251, 'n') + ".jpg", counted = std::string(247, 'n') + "_001.jpg";
     for (const std::string& name : {std::string{"chart"}, {"chart.png"}, {"link"}, longest, longest})
         EXPECT_EQ(savePicture(name), "");
-    withOne(clicking("cmdSavePicture"));  // cancelled
-    EXPECT_EQ(QDir{QCoreApplication::applicationDirPath()}.entryList({"*.jpg"}), QStringList{});
+    const auto besideProgram = [] { return QDir{QCoreApplication::applicationDirPath()}.entryList(); };
+    const QStringList before = besideProgram();
+    withOne(clicking("cmdSavePicture"));
+    EXPECT_EQ(besideProgram(), before) << "cancelled";
     const QString closed = "critical|Nothing can be saved in this folder.|stays";
     inClosedFolder(folder_, [&] { EXPECT_EQ(savePicture("chart.jpg"), closed); });
     savePictureAs(QPixmap{9, 9}, in("broken").c_str(), "/none.dll", nullptr);
     EXPECT_EQ(names().join(" ").toStdString(),
               "chart.bmp chart.jpg chart.png link_001.jpg " + counted + " " + longest);
-    EXPECT_EQ(read("chart.bmp"), "the person's own");
     for (int counter = 1001; counter <= 1999; ++counter)
         write("chart_" + std::to_string(counter).substr(1) + ".jpg", "");
     EXPECT_EQ(savePicture("chart"),
