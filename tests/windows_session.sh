@@ -12,8 +12,7 @@ comes_forward() {
 }
 stands_still() { [ "$(import -window root rgb:- | cksum)" = "$(sleep 0.3 && import -window root rgb:- | cksum)" ]; }
 is_gone() { ! "$@"; }
-# The next program's windows may have the same numbers.
-wait_for_end() { wait_for is_gone xdotool search --name "^$title" && front=; }
+wait_for_end() { wait_for is_gone xdotool search --name "^$title" && front=; } # whose number the next one may have
 
 # Waits until the next window, which has that title, is in front; takes the picture of that name, unless it is "-",
 # and then presses the keys. What begins with "=" is typed, with "+" pasted: Wine types no letters of all scripts.

@@ -32,7 +32,7 @@ void sendAt(quint64 time, QWidget& window, Event event) {
     QApplication::sendEvent(window.windowHandle(), &event);
 }
 
-void sendKeyAt(quint64 time, QEvent::Type type, QWidget& window, Qt::Key key = Qt::Key_Return,
+void sendKeyAt(quint64 time, QEvent::Type type, QWidget& window, Qt::Key key = Qt::Key_Enter,
                bool repeated = false) {
     sendAt(time, window, QKeyEvent{type, key, Qt::NoModifier, {}, repeated});
 }
@@ -74,7 +74,7 @@ struct Analysis : Program {
 
 TEST_F(Analysis, OfAPalaceIsOpenedOnceByAKeyThatIsHeldDownAndReadUntilTheNextPress) {
     const auto hold = [](QWidget& window) {
-        sendKeyAt(0, QEvent::KeyPress, window, Qt::Key_Return, true);
+        sendKeyAt(0, QEvent::KeyPress, window, Qt::Key_Enter, true);
         for (const quint64 time : {5000U, 5030U}) {  // as the X server reports it
             sendKeyAt(time, QEvent::KeyRelease, window);
             sendKeyAt(time + 1, QEvent::KeyPress, window);
@@ -95,8 +95,8 @@ TEST_F(Analysis, OfAPalaceIsOpenedOnceByAKeyThatIsHeldDownAndReadUntilTheNextPre
             EXPECT_FALSE(find("cmdSave")->isVisible() || find("cmdPrint")->isVisible());
             press("Ctrl+S Ctrl+P");
             sendKeyAt(time, seen ? QEvent::KeyRelease : QEvent::KeyPress, analysis,
-                      seen ? Qt::Key_Return : Qt::Key_Shift);
-            sendKeyAt(time * 2, QEvent::KeyPress, analysis, Qt::Key_Return, !seen);
+                      seen ? Qt::Key_Enter : Qt::Key_Shift);
+            sendKeyAt(time * 2, QEvent::KeyPress, analysis, Qt::Key_Enter, !seen);
             EXPECT_FALSE(analysis.isVisible());
         });
     }
