@@ -58,6 +58,8 @@ inline QString press(const QString& keys, QWidget* control = nullptr) {
     return names.join(" ").remove("lblCover");
 }
 
+inline QString textOf(const QString& label) { return find<QLabel>(label)->text(); }
+
 // Chooses an entry of a window's menus, which acts through the event loop.
 inline void choose(const QString& window, const QString& entry) {
     present(find(window)->findChild<QAction*>(entry), entry)->trigger();

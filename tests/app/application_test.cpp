@@ -84,7 +84,7 @@ TEST_F(Program, GoesBackToAnEmptyFormAndCastsTheNextChartOnFreshCells) {
 TEST_F(Program, DoesOneThingAtATime) {
     enter("A 1 January 1970 0 0");
     for (int time = 0; time < 2; ++time) find<QAbstractButton>("cmdGenerateChart")->click();
-    EXPECT_EQ(find<QLabel>("lblDateOfBirth")->text(), "January/2/1970");
+    EXPECT_EQ(textOf("lblDateOfBirth"), "January/2/1970");
     const auto pressAll = [] {
         for (const char* name : {"cmdShowAll", "cmdSavePicture", "lblCover(3)", "cmdBack"}) {
             QTimer::singleShot(0, find<QAbstractButton>(name), &QAbstractButton::click);  // late, if at all

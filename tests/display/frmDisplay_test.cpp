@@ -49,9 +49,7 @@ TEST_F(ChartWindow, ShowsTheWholeChartAndTellsItInSentences) {
 
 TEST_F(ChartWindow, HintsAtWhatThePointerIsOnOrTheKeysLedTo) {
     show();
-    const auto expectHint = [](const char* hint) {
-        await([=] { return find<QLabel>("lblCaption")->text() == hint; });
-    };
+    const auto expectHint = [](const char* hint) { await([=] { return textOf("lblCaption") == hint; }); };
     const char* onGround = "Hold Your Mouse Button On The Palace";
     const char* onCell = "Click To Know More Abut This Palace And Stars";
     QTest::mouseMove(cover(4));

@@ -32,9 +32,8 @@ void sendAt(quint64 time, QWidget& window, Event event) {
     QApplication::sendEvent(window.windowHandle(), &event);
 }
 
-void sendKeyAt(quint64 time, QEvent::Type type, QWidget& window, Qt::Key key = Qt::Key_Enter,
-               bool repeated = false) {
-    sendAt(time, window, QKeyEvent{type, key, Qt::NoModifier, {}, repeated});
+void sendKeyAt(quint64 time, QEvent::Type type, QWidget& window, int key = Qt::Key_Enter, bool held = false) {
+    sendAt(time, window, QKeyEvent{type, key, Qt::NoModifier, {}, held});
 }
 
 struct Analysis : Program {

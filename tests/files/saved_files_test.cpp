@@ -23,7 +23,9 @@ void inClosedFolder(const std::string& folder, const std::function<void()>& acti
 }
 
 void limitFilesTo(rlim_t bytes) {
-    const rlimit limit{bytes, RLIM_INFINITY};
+    rlimit limit{};
+    ::getrlimit(RLIMIT_FSIZE, &limit);
+    limit.rlim_cur = std::min(bytes, limit.rlim_max);
     EXPECT_EQ(::setrlimit(RLIMIT_FSIZE, &limit), 0);
 }
 
